@@ -1,0 +1,85 @@
+#include "aplicacion/aplicacion.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "aplicacion/frm_about.h"
+#include "aplicacion/frm_main.h"
+#include "comun/fallo.h"
+
+namespace calvento {
+
+/// Every window of the program by its name, with what it needs from outside.
+const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
+  static const std::vector<Entrada> ventanas = {
+      {"frmMain", [](Aplicacion& a) { return std::make_unique<frmMain>(a, a.dialogos_); }},
+      {"frmAbout", [](Aplicacion& a) { return std::make_unique<frmAbout>(a); }},
+      {"Form2", [](Aplicacion& a) { return std::make_unique<Form2>(a); }},
+  };
+  return ventanas;
+}
+
+Aplicacion::Aplicacion(Dialogos& dialogos, SistemaVentanas& sistema) : dialogos_(dialogos), sistema_(sistema) {}
+
+Aplicacion::~Aplicacion() {
+  // data windows hold references to the parameter windows, so those go last
+  salientes_.clear();
+  for (auto it = ventanas_.begin(); it != ventanas_.end();)
+    it = it->second->seOculta() ? std::next(it) : ventanas_.erase(it);
+}
+
+void Aplicacion::arrancar() {
+  mostrar("frmMain");
+  mostrar("frmAbout");
+}
+
+Form2& Aplicacion::form2() { return dynamic_cast<Form2&>(*cargar("Form2")); }
+
+std::vector<std::string_view> Aplicacion::nombres() const {
+  std::vector<std::string_view> todos;
+  for (const Entrada& e : catalogo()) todos.push_back(e.nombre);
+  return todos;
+}
+
+Ventana* Aplicacion::cargada(std::string_view nombre) const {
+  const auto it = ventanas_.find(nombre);
+  return it == ventanas_.end() ? nullptr : it->second.get();
+}
+
+Ventana* Aplicacion::cargar(std::string_view nombre) {
+  if (Ventana* v = cargada(nombre)) return v;
+  const auto& todas = catalogo();
+  const auto it = std::find_if(todas.begin(), todas.end(), [&](const Entrada& e) { return e.nombre == nombre; });
+  if (it == todas.end()) return nullptr;
+  try {
+    return ventanas_.emplace(std::string(nombre), it->crear(*this)).first->second.get();
+  } catch (const FalloAritmetico& fallo) {
+    dialogos_.fallo(fallo.what());
+    return nullptr;
+  }
+}
+
+void Aplicacion::mostrar(std::string_view nombre) {
+  if (Ventana* v = cargar(nombre)) sistema_.presentar(*v);
+}
+
+void Aplicacion::ocultar(Ventana& ventana) { sistema_.ocultar(ventana); }
+
+void Aplicacion::descargar(Ventana& ventana) {
+  if (ventana.seOculta()) {
+    ocultar(ventana);
+    return;
+  }
+  const auto it = ventanas_.find(ventana.nombre());
+  if (it == ventanas_.end() || it->second.get() != &ventana) return;
+  sistema_.cerrar(ventana);
+  salientes_.push_back(std::move(it->second));
+  ventanas_.erase(it);
+  sistema_.despues([this] { salientes_.clear(); });
+}
+
+void Aplicacion::imprimir(Ventana& ventana) { sistema_.imprimir(ventana); }
+void Aplicacion::copiar(Ventana& ventana) { sistema_.copiar(ventana); }
+void Aplicacion::terminar() { sistema_.terminar(); }
+
+}  // namespace calvento

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "modelo/design_state.h"
+#include "plataforma/dialogos.h"
+#include "plataforma/navegador.h"
+#include "poza/form2.h"
+
+namespace calvento {
+
+/// Holds the one design record and the single instance of every window, and shows and unloads windows by their name.
+class Aplicacion : public Navegador {
+ public:
+  Aplicacion(Dialogos& dialogos, SistemaVentanas& sistema);
+  ~Aplicacion() override;
+
+  /// Start-up: shows the main window and the About box.
+  void arrancar();
+
+  /// Opens a project file in the data window of its extension, showing that window. Returns false when the extension is
+  /// none of the three.
+  bool abrirProyecto(const std::string& archivo);
+
+  /// Loads the window if it is not loaded, without showing it. nullptr for an unknown name or when loading failed; a
+  /// failure while loading is told in one box.
+  Ventana* cargar(std::string_view ventana);
+  template <class V>
+  V* cargar(std::string_view ventana) {
+    return dynamic_cast<V*>(cargar(ventana));
+  }
+  /// The window if it is loaded, else nullptr.
+  Ventana* cargada(std::string_view ventana) const;
+  /// Names of all windows the program has.
+  std::vector<std::string_view> nombres() const;
+
+  // Navegador
+  void mostrar(std::string_view ventana) override;
+  void ocultar(Ventana& ventana) override;
+  void descargar(Ventana& ventana) override;
+  void imprimir(Ventana& ventana) override;
+  void copiar(Ventana& ventana) override;
+  void terminar() override;
+
+  DesignState estado;
+
+ private:
+  using Fabrica = std::function<std::unique_ptr<Ventana>(Aplicacion&)>;
+  struct Entrada {
+    std::string_view nombre;
+    Fabrica crear;
+  };
+  static const std::vector<Entrada>& catalogo();
+
+  Form2& form2();
+
+  Dialogos& dialogos_;
+  SistemaVentanas& sistema_;
+  std::map<std::string, std::unique_ptr<Ventana>, std::less<>> ventanas_;
+  std::vector<std::unique_ptr<Ventana>> salientes_;  ///< unloaded, alive until the running event has ended
+};
+
+}  // namespace calvento

@@ -1,0 +1,161 @@
+#include "comun/numeros.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <limits>
+
+namespace calvento {
+
+namespace {
+
+bool esDigito(char c) { return c >= '0' && c <= '9'; }
+
+/// Decimal digits of |x| with so many significant ones: "d.ddd" as digits and the exponent of the first.
+struct Cifras {
+  std::string digitos;
+  int exponente = 0;
+};
+
+Cifras cifrasDe(double x, int significativas) {
+  std::array<char, 64> bufer{};
+  const auto r = std::to_chars(bufer.data(), bufer.data() + bufer.size(), std::fabs(x), std::chars_format::scientific,
+                               significativas - 1);
+  const std::string_view s(bufer.data(), static_cast<std::size_t>(r.ptr - bufer.data()));
+  const std::size_t e = s.find('e');
+  Cifras c;
+  for (const char ch : s.substr(0, e))
+    if (esDigito(ch)) c.digitos += ch;
+  std::string_view exponente = s.substr(e + 1);
+  if (exponente.front() == '+') exponente.remove_prefix(1);
+  std::from_chars(exponente.data(), exponente.data() + exponente.size(), c.exponente);
+  return c;
+}
+
+/// Places the digits around the decimal point, without an exponent.
+std::string enFijo(const Cifras& c) {
+  std::string s;
+  if (c.exponente < 0) {
+    s = "0." + std::string(static_cast<std::size_t>(-c.exponente - 1), '0') + c.digitos;
+  } else {
+    const auto enteros = static_cast<std::size_t>(c.exponente) + 1;
+    s = c.digitos;
+    if (s.size() < enteros) s.append(enteros - s.size(), '0');
+    if (s.size() > enteros) s.insert(enteros, ".");
+  }
+  return s;
+}
+
+std::string textoSimple(double x, int significativas) {
+  if (x == 0) return "0";
+  Cifras c = cifrasDe(x, significativas);
+  while (c.digitos.size() > 1 && c.digitos.back() == '0') c.digitos.pop_back();
+  const std::string signo = x < 0 ? "-" : "";
+  if (c.exponente >= -significativas && c.exponente < significativas) return signo + enFijo(c);
+  std::string s = c.digitos;
+  if (s.size() > 1) s.insert(1, ".");
+  const int e = c.exponente < 0 ? -c.exponente : c.exponente;
+  return signo + s + (c.exponente < 0 ? "E-" : "E+") + (e < 10 ? "0" : "") + std::to_string(e);
+}
+
+/// The digits of |x| rounded to so many decimals, ties away from zero, judged on fifteen significant digits.
+std::string redondeoDecimal(double x, int decimales) {
+  Cifras c = cifrasDe(x, 15);
+  // digits as a whole number of units of the last decimal
+  const int cuantas = c.exponente + 1 + decimales;
+  if (x == 0 || cuantas < 0) return std::string(static_cast<std::size_t>(decimales) + 1, '0');
+  std::string d = "0" + c.digitos;
+  const auto quedan = static_cast<std::size_t>(cuantas) + 1;
+  if (d.size() <= quedan) {
+    d.append(quedan - d.size(), '0');
+  } else {
+    const bool sube = d[quedan] >= '5';
+    d.resize(quedan);
+    for (std::size_t i = d.size(); sube && i-- > 0;) {
+      if (d[i] != '9') {
+        ++d[i];
+        break;
+      }
+      d[i] = '0';
+    }
+  }
+  const auto minimo = static_cast<std::size_t>(decimales) + 1;
+  if (d.size() < minimo) d.insert(0, minimo - d.size(), '0');
+  while (d.size() > minimo && d.front() == '0') d.erase(0, 1);
+  return d;
+}
+
+}  // namespace
+
+std::int16_t enteroCorto(Real v) {
+  const double entero = std::nearbyint(v.valor());
+  if (entero < std::numeric_limits<std::int16_t>::min() || entero > std::numeric_limits<std::int16_t>::max())
+    fallar(Motivo::desbordamiento);
+  return static_cast<std::int16_t>(entero);
+}
+
+Real Val(std::string_view t) {
+  while (!t.empty() && (t.front() == ' ' || t.front() == '\t' || t.front() == '\r' || t.front() == '\n'))
+    t.remove_prefix(1);
+  const bool negativo = !t.empty() && t.front() == '-';
+  if (!t.empty() && (t.front() == '-' || t.front() == '+')) t.remove_prefix(1);
+  // from_chars would also take "inf" and "nan": a number begins with a digit or with a point and a digit
+  const bool empieza = !t.empty() && (esDigito(t[0]) || (t[0] == '.' && t.size() > 1 && esDigito(t[1])));
+  if (!empieza) return 0;
+  double v = 0;
+  const auto r = std::from_chars(t.data(), t.data() + t.size(), v);
+  if (r.ec == std::errc::result_out_of_range) {
+    // the range error does not tell too large from too small: the sign of the written exponent, or a leading zero, does
+    const std::string_view leido(t.data(), static_cast<std::size_t>(r.ptr - t.data()));
+    const std::size_t e = leido.find_first_of("eE");
+    const bool pequeno = e == std::string_view::npos ? !esDigito(leido[0]) || leido[0] == '0' : leido[e + 1] == '-';
+    if (!pequeno) fallar(Motivo::desbordamiento);
+    v = 0;
+  }
+  return negativo ? -v : v;
+}
+
+Real Round(Real x, int decimales) {
+  static constexpr std::array<double, 8> potencias = {1, 10, 100, 1e3, 1e4, 1e5, 1e6, 1e7};
+  const double p = potencias.at(static_cast<std::size_t>(decimales));
+  const double escalado = x.valor() * p;
+  // beyond 2^53 every number is whole already, and the product may overflow
+  if (!(std::fabs(escalado) < 9007199254740992.0)) return x;
+  return Real(std::nearbyint(escalado) / p);
+}
+
+Single Round(Single x, int decimales) { return Single(Round(Real(x), decimales)); }
+
+Real enRejilla(Real x) { return 0.05 * Round(x / 0.05, 0); }
+
+std::string texto(Real x) { return textoSimple(x.valor(), 15); }
+std::string texto(Single x) { return textoSimple(static_cast<double>(x.valor()), 7); }
+std::string texto(int x) { return std::to_string(x); }
+
+std::string formato(Real x, std::string_view patron) {
+  const std::size_t punto = patron.find('.');
+  const std::string_view enteros = patron.substr(0, punto);
+  const std::size_t decimales = punto == std::string_view::npos
+                                    ? 0
+                                    : static_cast<std::size_t>(std::count(
+                                          patron.begin() + static_cast<std::ptrdiff_t>(punto), patron.end(), '0'));
+  std::string digitos = redondeoDecimal(x.valor(), static_cast<int>(decimales));
+  const bool esCero = digitos.find_first_not_of('0') == std::string::npos;
+  const std::string fraccion = digitos.substr(digitos.size() - decimales);
+  digitos.resize(digitos.size() - decimales);
+
+  // the whole digits fill the zeros of the pattern from the right; what is left over stands before them
+  std::string salida;
+  std::size_t i = digitos.size();
+  for (std::size_t k = enteros.size(); k-- > 0;) {
+    if (enteros[k] == '0')
+      salida.insert(salida.begin(), i > 0 ? digitos[--i] : '0');
+    else
+      salida.insert(salida.begin(), enteros[k]);
+  }
+  salida.insert(0, digitos, 0, i);
+  if (decimales > 0) salida += '.' + fraccion;
+  return (x.valor() < 0 && !esCero ? "-" : "") + salida;
+}
+
+}  // namespace calvento

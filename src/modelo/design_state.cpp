@@ -1,0 +1,110 @@
+#include "modelo/design_state.h"
+
+namespace calvento {
+
+namespace {
+
+#define CAMPO(nombre) \
+  CampoSingle { #nombre, &DesignState::nombre }
+constexpr std::array campos = {
+    CAMPO(Q),
+    CAMPO(progresivaInicio),
+    CAMPO(bArriba),
+    CAMPO(zArriba),
+    CAMPO(nArriba),
+    CAMPO(sArriba),
+    CAMPO(bAbajo),
+    CAMPO(zAbajo),
+    CAMPO(nAbajo),
+    CAMPO(sAbajo),
+    CAMPO(bRapida),
+    CAMPO(zRapida),
+    CAMPO(nRapida),
+    CAMPO(sTramo1),
+    CAMPO(sTramo2),
+    CAMPO(sTramo3),
+    CAMPO(bPoza),
+    CAMPO(zPoza),
+    CAMPO(bPozaCaida),
+    CAMPO(zPozaCaida),
+    CAMPO(cotaInicio),
+    CAMPO(cotaTramo2),
+    CAMPO(cotaTramo3),
+    CAMPO(cotaFin),
+    CAMPO(cotaAbajo),
+    CAMPO(zRampaEntrada),
+    CAMPO(zRampaSalida),
+    CAMPO(ahogamiento),
+    CAMPO(anguloTransicion),
+    CAMPO(tipoTanque),
+    CAMPO(ynArriba),
+    CAMPO(vArriba),
+    CAMPO(frArriba),
+    CAMPO(ycControl),
+    CAMPO(sobreelevacion),
+    CAMPO(bEntradaCaida),
+    CAMPO(longControl),
+    CAMPO(longRapida),
+    CAMPO(longTramo1),
+    CAMPO(longTramo2),
+    CAMPO(longTramo3),
+    CAMPO(yTramo1),
+    CAMPO(yTramo2),
+    CAMPO(sUltimoTramo),
+    CAMPO(yFin),
+    CAMPO(vFin),
+    CAMPO(frFin),
+    CAMPO(trayA),
+    CAMPO(trayB),
+    CAMPO(xTrayectoria),
+    CAMPO(xTrayectoriaInt),
+    CAMPO(cotaTrayectoria),
+    CAMPO(radioCurva),
+    CAMPO(zCaida),
+    CAMPO(y1),
+    CAMPO(v1),
+    CAMPO(fr1),
+    CAMPO(y2),
+    CAMPO(v2),
+    CAMPO(cotaPoza),
+    CAMPO(profPoza),
+    CAMPO(longPoza),
+    CAMPO(kLongPoza),
+    CAMPO(ynAbajo),
+    CAMPO(vAbajo),
+    CAMPO(frAbajo),
+    CAMPO(progresivaFinPoza),
+    CAMPO(hArriba),
+    CAMPO(hAbajo),
+    CAMPO(hRapida),
+    CAMPO(hPoza),
+    CAMPO(espejoArriba),
+    CAMPO(espejoAbajo),
+    CAMPO(espejoRapida),
+    CAMPO(espejoPoza),
+    CAMPO(longTransEntrada),
+    CAMPO(longTransSalida),
+    CAMPO(yVert94),
+    CAMPO(longTransVert),
+    CAMPO(tipoTransVert),
+    CAMPO(numTubos),
+    CAMPO(diamTubo),
+    CAMPO(longTubo),
+    CAMPO(cadIntervaloV),
+    CAMPO(cadIntervaloH),
+    CAMPO(cadAlturaTexto),
+};
+#undef CAMPO
+
+constexpr std::array<float, 31> pasos = {0.0001F, 0.0002F, 0.0005F, 0.001F, 0.002F, 0.005F, 0.01F,  0.02F,
+                                         0.05F,   0.1F,    0.2F,    0.5F,   1,      2,      5,      10,
+                                         20,      50,      100,     200,    500,    1000,   2000,   5000,
+                                         10000,   20000,   50000,   100000, 200000, 500000, 1000000};
+
+}  // namespace
+
+std::span<const CampoSingle> camposSingle() { return campos; }
+
+std::span<const float> pasosEje() { return pasos; }
+
+}  // namespace calvento
