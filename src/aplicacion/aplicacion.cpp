@@ -6,6 +6,8 @@
 #include "aplicacion/frm_about.h"
 #include "aplicacion/frm_main.h"
 #include "comun/fallo.h"
+#include "hidraulica/form14.h"
+#include "hidraulica/form15.h"
 
 namespace calvento {
 
@@ -15,6 +17,8 @@ const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
       {"frmMain", [](Aplicacion& a) { return std::make_unique<frmMain>(a, a.dialogos_); }},
       {"frmAbout", [](Aplicacion& a) { return std::make_unique<frmAbout>(a); }},
       {"Form2", [](Aplicacion& a) { return std::make_unique<Form2>(a); }},
+      {"Form14", [](Aplicacion& a) { return std::make_unique<Form14>(a.estado, a.dialogos_, a); }},
+      {"Form15", [](Aplicacion& a) { return std::make_unique<Form15>(a.estado, a.dialogos_, a); }},
   };
   return ventanas;
 }
