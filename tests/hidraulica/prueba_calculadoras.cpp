@@ -18,7 +18,7 @@ TEST(Form15, RectangularJumpOfAHandCalculation) {
   f.Text4.Text = "0.5";
   f.Command1.Click();
   EXPECT_EQ(f.Text6.Text.valor(), "1.051");
-  EXPECT_EQ(f.Text7.Text.valor(), "2.102");
+  EXPECT_EQ(f.Text7.Text.valor(), "2.103");
 }
 
 TEST(Form14, ElementsOfASectionOfAHandCalculation) {
