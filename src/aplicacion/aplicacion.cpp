@@ -8,6 +8,9 @@
 #include "comun/fallo.h"
 #include "hidraulica/form14.h"
 #include "hidraulica/form15.h"
+#include "modelo/archivo_proyecto.h"
+#include "plataforma/ventana_datos.h"
+#include "rapida/form10.h"
 
 namespace calvento {
 
@@ -19,6 +22,7 @@ const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
       {"Form2", [](Aplicacion& a) { return std::make_unique<Form2>(a); }},
       {"Form14", [](Aplicacion& a) { return std::make_unique<Form14>(a.estado, a.dialogos_, a); }},
       {"Form15", [](Aplicacion& a) { return std::make_unique<Form15>(a.estado, a.dialogos_, a); }},
+      {"Form10", [](Aplicacion& a) { return std::make_unique<Form10>(a.estado, a.form2(), a.dialogos_, a); }},
   };
   return ventanas;
 }
@@ -64,7 +68,27 @@ Ventana* Aplicacion::cargar(std::string_view nombre) {
 }
 
 void Aplicacion::mostrar(std::string_view nombre) {
+  const auto& todas = catalogo();
+  if (std::none_of(todas.begin(), todas.end(), [&](const Entrada& e) { return e.nombre == nombre; })) {
+    dialogos_.aviso("Esta ventana aún no forma parte del programa");
+    return;
+  }
   if (Ventana* v = cargar(nombre)) sistema_.presentar(*v);
+}
+
+bool Aplicacion::abrirProyecto(const std::string& archivo) {
+  for (const FormatoProyecto* formato : {&formatoRapida, &formatoCaidaInclinada, &formatoCaidaVertical}) {
+    if (!tieneExtension(archivo, formato->extension)) continue;
+    auto* ventana = cargar<VentanaDatos>(formato->ventana);
+    if (ventana == nullptr) {
+      mostrar(formato->ventana);
+      return true;
+    }
+    sistema_.presentar(*ventana);
+    ventana->abrir(archivo);
+    return true;
+  }
+  return false;
 }
 
 void Aplicacion::ocultar(Ventana& ventana) { sistema_.ocultar(ventana); }

@@ -23,6 +23,9 @@ extern const FormatoProyecto formatoRapida;
 extern const FormatoProyecto formatoCaidaInclinada;
 extern const FormatoProyecto formatoCaidaVertical;
 
+/// Whether the file's name ends in that extension, capitals ignored.
+bool tieneExtension(std::string_view archivo, std::string_view extension);
+
 /// A file that cannot be read or written; what() is a short Spanish text with the system's reason.
 class FalloArchivo : public std::runtime_error {
  public:
@@ -35,8 +38,8 @@ class FalloArchivo : public std::runtime_error {
 /// or a line longer than any field.
 std::vector<std::string> leerLineas(const std::filesystem::path& archivo, std::size_t cuantas);
 
-/// Writes the lines in Windows-1252 with CRLF, to a temporary file beside the target that is renamed over it, so that a
-/// failure leaves the former file whole. Fails with FalloArchivo.
+/// Writes the lines in Windows-1252 with CRLF (a line with other characters in UTF-8), to a temporary file beside the
+/// target that is renamed over it, so that a failure leaves the former file whole. Fails with FalloArchivo.
 void escribirLineas(const std::filesystem::path& archivo, const std::vector<std::string>& lineas);
 
 /// Writes bytes atomically, as escribirLineas does.

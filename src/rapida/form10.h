@@ -6,13 +6,14 @@
 #include "plataforma/dialogos.h"
 #include "plataforma/navegador.h"
 #include "plataforma/rejilla.h"
-#include "plataforma/ventana.h"
+#include "plataforma/ventana_datos.h"
 #include "poza/form2.h"
+#include "rapida/calculo_rapida.h"
 
 namespace calvento {
 
 /// Data window of the chute: reads the fields, starts the calculation, shows results and live hints.
-class Form10 : public Ventana {
+class Form10 : public VentanaDatos, private PantallaRapida {
  public:
   Form10(DesignState& estado, Form2& parametros, Dialogos& dialogos, Navegador& navegador);
 
@@ -93,12 +94,43 @@ class Form10 : public Ventana {
   Menu mnparam{*this, "mnparam"};
   Toolbar Toolbar1{*this, "Toolbar1", {"nuevo", "abrir", "guardar", "Copiar", "imprimir"}};
 
-  void Command3_Click();
+  void Command3_Click() override;
+  bool calculado() const override { return calculado_; }
+  void abrir(const std::string& ruta) override;
+  void Abrir_Archivo();
   void nuevo();
-  void SECONTROL();
-  void ACTIVARTRAMOS();
+  /// Live preview of the rise at the control section. A statement that fails is passed over.
+  void SECONTROL() override;
 
   CommandButton* botonPredeterminado() override { return &Command3; }
+
+ private:
+  // PantallaRapida
+  Dialogos& dialogos() override { return dialogos_; }
+  bool tieneDatosTramo2() const override { return !vacio(Text3.Text) && !vacio(Text15.Text); }
+  bool tieneDatosTramo3() const override { return tieneDatosTramo2() && !vacio(Text14.Text) && !vacio(Text27.Text); }
+  void mostrarTaludEntrada(const std::string& texto) override { Text21.Text = texto; }
+  void mostrarAhogamiento(const std::string& texto) override { Label35.Caption = texto; }
+  void habilitarResultados() override;
+  void inhabilitarResultados() override;
+  Rejilla& tablaTanques() override { return Grid1.tabla; }
+
+  void unirCampos();
+  void unirMenus();
+  void unirTabla();
+  void leerCampos();
+  void ACTIVARTRAMOS(int tramos);
+  /// A suggested width for the typed discharge, in the status bar.
+  void mostrarAncho(const char* rotulo, Real (*ancho)(Real Q));
+  void trasLeer();
+  void mostrarBloques();
+
+  DesignState& estado_;
+  Form2& parametros_;
+  Dialogos& dialogos_;
+  Navegador& navegador_;
+  Proyecto proyecto_;
+  bool calculado_ = false;
 };
 
 }  // namespace calvento

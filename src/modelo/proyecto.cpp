@@ -1,0 +1,142 @@
+#include "modelo/proyecto.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "comun/numeros.h"
+
+namespace calvento {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path comoRuta(const std::string& utf8) { return fs::path(std::u8string(utf8.begin(), utf8.end())); }
+std::string comoTexto(const fs::path& ruta) {
+  const std::u8string s = ruta.u8string();
+  return std::string(s.begin(), s.end());
+}
+
+const CampoSingle* campoDelRegistro(std::string_view nombre) {
+  const auto todos = camposSingle();
+  const auto it = std::find_if(todos.begin(), todos.end(), [&](const CampoSingle& c) { return c.nombre == nombre; });
+  return it == todos.end() ? nullptr : &*it;
+}
+
+bool extensionDeProyecto(std::string_view archivo) {
+  const auto todos = {&formatoRapida, &formatoCaidaInclinada, &formatoCaidaVertical};
+  return std::any_of(todos.begin(), todos.end(),
+                     [&](const FormatoProyecto* f) { return tieneExtension(archivo, f->extension); });
+}
+
+}  // namespace
+
+std::string tituloDeArchivo(const std::string& ruta) { return comoTexto(comoRuta(ruta).filename()); }
+
+bool FileExists(const std::string& ruta) {
+  std::error_code ec;
+  return fs::exists(comoRuta(ruta), ec);
+}
+
+void usarCarpetaDe(const std::string& ruta) {
+  const fs::path carpeta = comoRuta(ruta).parent_path();
+  std::error_code ec;
+  if (!carpeta.empty()) fs::current_path(carpeta, ec);
+}
+
+Proyecto::Proyecto(const FormatoProyecto& formato, DesignState& estado, Ventana& ventana, Ventana& parametros,
+                   Dialogos& dialogos)
+    : formato_(formato), estado_(estado), ventana_(ventana), parametros_(parametros), dialogos_(dialogos) {}
+
+TextBox* Proyecto::campo(std::string_view linea) const {
+  const std::size_t punto = linea.find('.');
+  if (punto == std::string_view::npos) return ventana_.buscar<TextBox>(linea);
+  return parametros_.buscar<TextBox>(linea.substr(punto + 1));
+}
+
+std::string Proyecto::textoDeLinea(std::string_view linea) const {
+  if (const TextBox* c = campo(linea)) return c->Text;
+  if (linea == "tipoTubo") return estado_.tipoTubo;
+  return texto(estado_.*campoDelRegistro(linea)->campo);
+}
+
+void Proyecto::ponerLinea(std::string_view linea, const std::string& valor) {
+  if (TextBox* c = campo(linea))
+    c->Text = valor;
+  else if (linea == "tipoTubo")
+    estado_.tipoTubo = valor;
+  else
+    estado_.*campoDelRegistro(linea)->campo = Val(valor);
+}
+
+OpcionesArchivo Proyecto::opciones(std::string titulo) const {
+  return {std::move(titulo), std::string(formato_.extension), std::string(formato_.filtro), {}};
+}
+
+void Proyecto::adoptar(const std::string& ruta) {
+  estado_.rutaArchivo = tituloDeArchivo(ruta);
+  ventana_.Caption = std::string(formato_.titulo) + " - " + estado_.rutaArchivo;
+  estado_.esNuevo = false;
+}
+
+void Proyecto::Abrir_Archivo(const std::function<void()>& trasLeer) {
+  const auto ruta = dialogos_.abrirArchivo(opciones("Abrir"));
+  if (!ruta || ruta->empty()) return;
+  usarCarpetaDe(*ruta);
+  abrir(*ruta, trasLeer);
+}
+
+void Proyecto::abrir(const std::string& ruta, const std::function<void()>& trasLeer) {
+  try {
+    const std::vector<std::string> lineas = leerLineas(comoRuta(ruta), formato_.lineas.size());
+    for (std::size_t i = 0; i < lineas.size(); ++i) ponerLinea(formato_.lineas[i], lineas[i]);
+    if (lineas.size() < formato_.lineas.size())
+      throw FalloArchivo("El archivo " + tituloDeArchivo(ruta) + " está incompleto: termina en la línea " +
+                         texto(static_cast<int>(lineas.size())) + " de " +
+                         texto(static_cast<int>(formato_.lineas.size())));
+    adoptar(ruta);
+    trasLeer();
+  } catch (const FalloArchivo& fallo) {
+    dialogos_.fallo(fallo.what());
+  } catch (const FalloAritmetico& fallo) {
+    dialogos_.fallo("El archivo " + tituloDeArchivo(ruta) + " tiene un número no válido: " + fallo.what());
+  }
+}
+
+void Proyecto::escribir(const std::string& ruta) {
+  std::vector<std::string> lineas;
+  for (const std::string_view linea : formato_.lineas) lineas.push_back(textoDeLinea(linea));
+  escribirLineas(comoRuta(ruta), lineas);
+}
+
+void Proyecto::Guardar_Archivo() {
+  // the record keeps one file name for the three structures: a name of another structure's kind is never overwritten
+  const bool ajeno =
+      !tieneExtension(estado_.rutaArchivo, formato_.extension) && extensionDeProyecto(estado_.rutaArchivo);
+  if (estado_.esNuevo || ajeno || estado_.rutaArchivo.empty()) {
+    Guardarcomo_Archivo();
+    return;
+  }
+  try {
+    escribir(estado_.rutaArchivo);
+  } catch (const FalloArchivo& fallo) {
+    dialogos_.fallo(fallo.what());
+  }
+}
+
+void Proyecto::Guardarcomo_Archivo() {
+  const auto ruta = dialogos_.guardarArchivo(opciones("Guardar como"));
+  if (!ruta || ruta->empty()) return;
+  usarCarpetaDe(*ruta);
+  if (FileExists(*ruta) &&
+      !dialogos_.pregunta("El archivo " + tituloDeArchivo(*ruta) + " ya existe. ¿Desea reemplazarlo?"))
+    return;
+  try {
+    escribir(*ruta);
+    adoptar(*ruta);
+  } catch (const FalloArchivo& fallo) {
+    dialogos_.fallo(fallo.what());
+  }
+}
+
+}  // namespace calvento

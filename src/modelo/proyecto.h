@@ -1,0 +1,51 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "modelo/archivo_proyecto.h"
+#include "modelo/design_state.h"
+#include "plataforma/dialogos.h"
+#include "plataforma/ventana.h"
+
+namespace calvento {
+
+/// Opening and saving of one data window: the same operations for the three structures, which differ in their format
+/// and in what they do once the lines are read.
+class Proyecto {
+ public:
+  /// `parametros` is the parameter window whose fields the file keeps too.
+  Proyecto(const FormatoProyecto& formato, DesignState& estado, Ventana& ventana, Ventana& parametros,
+           Dialogos& dialogos);
+
+  /// Asks for a file and opens it.
+  void Abrir_Archivo(const std::function<void()>& trasLeer);
+  /// Reads the file into the fields and the record, then runs `trasLeer`. A file that ends early leaves what was read
+  /// in the fields, says so, and nothing follows.
+  void abrir(const std::string& ruta, const std::function<void()>& trasLeer);
+  void Guardar_Archivo();
+  void Guardarcomo_Archivo();
+
+ private:
+  std::string textoDeLinea(std::string_view linea) const;
+  void ponerLinea(std::string_view linea, const std::string& texto);
+  TextBox* campo(std::string_view linea) const;
+  void escribir(const std::string& ruta);
+  void adoptar(const std::string& ruta);
+  OpcionesArchivo opciones(std::string titulo) const;
+
+  const FormatoProyecto& formato_;
+  DesignState& estado_;
+  Ventana& ventana_;
+  Ventana& parametros_;
+  Dialogos& dialogos_;
+};
+
+/// The name of a file without its folder, and whether a file of that path exists.
+std::string tituloDeArchivo(const std::string& ruta);
+bool FileExists(const std::string& ruta);
+/// Lets relative names resolve against the folder of that file, as after a file dialog.
+void usarCarpetaDe(const std::string& ruta);
+
+}  // namespace calvento

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "modelo/design_state.h"
+#include "plataforma/dialogos.h"
+#include "plataforma/rejilla.h"
+#include "poza/form2.h"
+
+namespace calvento {
+
+/// What the two structures with a feasibility table do differently.
+struct CriterioTanques {
+  Real taludPoza;            ///< side slope of the basin
+  Real velocidad;            ///< judged against 15.24 m/s: v1 in the chute, always 0 in the inclined drop
+  const char* rotuloFroude;  ///< before the Froude number of USBR II: "F= " in the chute, "Fr= " in the inclined drop
+};
+
+/// Titles, the two fixed columns and the colours of the feasibility table.
+void prepararTablaTanques(Rejilla& tabla);
+
+/// Writes a verdict and its cause beside each basin type, from the record's fr1, v1, y1 and Q. It picks none.
+void SELECCIONARTANQUE(Rejilla& tabla, const DesignState& estado, const Form2& parametros,
+                       const CriterioTanques& criterio);
+
+/// Sets longPoza (and kLongPoza where the rule has a K) for the basin type in force; false for a type that is none of
+/// 1 to 6, which leaves both as they are.
+bool longitudPoza(DesignState& estado, const Form2& parametros);
+
+/// The same, with a message where no type is chosen.
+void LONGPOZA(DesignState& estado, const Form2& parametros, Dialogos& dialogos);
+
+/// Whether the basin type in force has a sheet of block dimensions.
+bool tieneBloques(const DesignState& estado);
+
+/// Colours all data cells, and the row of a type (1 to 6) as the chosen one.
+void pintarTabla(Rejilla& tabla, int filaElegida = 0);
+
+/// Empties the verdicts and takes the chosen row's mark away.
+void limpiarTabla(Rejilla& tabla);
+
+/// A click on a row takes its type, whatever the verdict: colours the row and sets the basin length. `enRejillaObra`:
+/// the length goes to the 0.05 grid (chute only). Returns whether the menu of block dimensions is to be enabled; a
+/// click on the header row sets type 0 and gives no answer.
+enum class MenuBloques { igual, activo, inactivo };
+MenuBloques pulsarTabla(Rejilla& tabla, int fila, DesignState& estado, const Form2& parametros, bool enRejillaObra);
+
+}  // namespace calvento

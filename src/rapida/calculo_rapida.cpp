@@ -1,0 +1,162 @@
+#include "rapida/calculo_rapida.h"
+
+#include "comun/numeros.h"
+#include "hidraulica/resalto.h"
+#include "hidraulica/solvers.h"
+#include "hidraulica/transicion.h"
+#include "poza/tabla_tanques.h"
+
+namespace calvento {
+
+namespace {
+
+void canalArriba(DesignState& e, const Form2& p, PantallaRapida& pantalla) {
+  e.ynArriba = YNORMAL(e.Q, e.bArriba, e.zArriba, e.nArriba, e.sArriba);
+  e.hArriba = e.ynArriba + Val(p.Text5.Text);
+  e.hArriba = enRejilla(e.hArriba);
+  const Seccion canal{e.bArriba, e.zArriba};
+  e.vArriba = e.Q / canal.area(e.ynArriba);
+  e.frArriba = e.vArriba / Sqr(gravedad * canal.area(e.ynArriba) / canal.espejo(e.ynArriba));
+  pantalla.SECONTROL();
+  if (e.sobreelevacion < 0) e.sobreelevacion = 0;
+}
+
+/// The regimes of the canal and of the chute; false stops the calculation. `y0` becomes the depth the chute starts
+/// with.
+bool comprobarRegimen(DesignState& e, PantallaRapida& pantalla, Single& y0) {
+  const Seccion rapida{e.bRapida, e.zRapida};
+  const Single yn = YNORMAL(e.Q, e.bRapida, e.zRapida, e.nRapida, e.sTramo1);
+  if (rapida.froude(e.Q, yn) < 1) {
+    pantalla.dialogos().aviso("FLUJO SUB CRITICO EN EL CANAL DE LA RÁPIDA!!!, VERIFIQUE SUS DATOS");
+    return false;
+  }
+  if (e.frArriba > 1) {
+    if (!pantalla.dialogos().pregunta(
+            "FLUJO SUPER CRITICO EN CANAL AGUAS ARRIBA; DESEA INICIAR EL CALCULO CON Yn EN EL CANAL DE LA RÁPIDA?")) {
+      pantalla.inhabilitarResultados();
+      return false;
+    }
+    // the canal's normal depth is meant, not the chute's
+    y0 = e.ynArriba;
+    e.sobreelevacion = 0;
+  } else {
+    y0 = YCRITICO(e.Q, e.bRapida, e.zRapida);
+  }
+  return true;
+}
+
+/// Runs before the reaches are computed, so hRapida is still that of the former calculation: a second one can give
+/// another length.
+void LONGTRANSENTRADA(DesignState& e) {
+  e.espejoArriba = 2 * e.zArriba * e.hArriba + e.bArriba;
+  e.espejoRapida = 2 * e.zRapida * e.hRapida + e.bRapida;
+  e.longTransEntrada = longitudTransicion(e.espejoArriba, e.espejoRapida, e.anguloTransicion);
+  e.longTransEntrada = enRejilla(e.longTransEntrada);
+}
+
+void LONGTRANSSALIDA(DesignState& e) {
+  e.espejoPoza = 2 * e.zPoza * e.hPoza + e.bPoza;
+  e.espejoAbajo = 2 * e.zAbajo * e.hAbajo + e.bAbajo;
+  e.longTransSalida = longitudTransicion(e.espejoPoza, e.espejoAbajo, e.anguloTransicion);
+  ajustarTransicionSalida(e.longTransSalida);
+}
+
+void finDeRapida(DesignState& e, Single y0) {
+  const Seccion rapida{e.bRapida, e.zRapida};
+  e.yFin = y0;
+  e.vFin = e.Q / rapida.area(e.yFin);
+  e.frFin = e.vFin / Sqr(gravedad * rapida.area(e.yFin) / rapida.espejo(e.yFin));
+}
+
+void resalto(DesignState& e, Dialogos& dialogos) {
+  e.ynAbajo = YNORMAL(e.Q, e.bAbajo, e.zAbajo, e.nAbajo, e.sAbajo);
+  e.vAbajo = e.Q / Seccion{e.bAbajo, e.zAbajo}.area(e.ynAbajo);
+  const Single difEnergia =
+      (e.vAbajo * e.vAbajo / dosG + e.cotaAbajo + e.ynAbajo) - (e.vFin * e.vFin / dosG + e.cotaFin + e.yFin);
+  e.y1 = Y1RESALTO(e.Q, e.yFin, e.vFin, e.cotaFin, e.cotaAbajo, e.bPoza, dialogos);
+  e.y2 = conjugadoRectangular(e.y1, e.Q / e.bPoza);
+  TIRANTESCONJUGADOS(e, {e.bPoza, e.zPoza, difEnergia}, 0.001);
+}
+
+/// Widest basin into which the jet spreads along the ramp; a wider one is told, and the calculation goes on.
+void avisarAncho(const DesignState& e, Dialogos& dialogos) {
+  const Real W = e.bRapida + 2 * e.zRampaEntrada * (e.cotaFin - e.cotaPoza) *
+                                 Sqr(1 / (e.zRampaEntrada * e.zRampaEntrada) + 1) / (3 * e.frFin);
+  if (W > e.bPoza) return;
+  dialogos.aviso("Ancho de poza debe ser menor de: " + texto(Round(W, 3)));
+}
+
+/// Parabola of the trajectory, flatter than the free jet by the factor of 1.5² on the velocity head, and its tangent
+/// with the ramp. A ramp steeper than the parabola at the floor is flattened, told in a message each time.
+void trayectoria(DesignState& e, PantallaRapida& pantalla) {
+  const Single S = e.sUltimoTramo;
+  e.trayA = -(S * S + 1) * gravedad / (4.5 * e.vFin * e.vFin);
+  e.trayB = -S;
+  while (true) {
+    e.xTrayectoria = -(2 * e.trayB + 1) / (2 * e.zRampaEntrada * e.trayA);
+    e.cotaTrayectoria = e.cotaFin - Abs(e.xTrayectoria * e.xTrayectoria * e.trayA + e.trayB * e.xTrayectoria);
+    const Real xe =
+        e.longRapida + (-e.trayB - Sqr(e.trayB * e.trayB - 4 * e.trayA * (e.cotaFin - e.cotaPoza))) / (2 * e.trayA);
+    const Real zMin = -(2 * e.trayB + 1) / (2 * e.trayA * (xe - e.longRapida));
+    if (!(e.zRampaEntrada < zMin)) return;
+    const Real zNew = enRejilla(zMin + 0.05);
+    const Single anterior = e.zRampaEntrada;
+    pantalla.dialogos().aviso("El Talud(Z) de la rampa de ingreso a la poza debe ser >=" + texto(zNew));
+    pantalla.mostrarTaludEntrada(texto(zNew));
+    e.zRampaEntrada = zNew;
+    // beyond the resolution of the 4-byte slope the step of the grid is lost and no slope would ever be enough
+    if (e.zRampaEntrada == anterior) fallar(Motivo::sinConvergencia);
+  }
+}
+
+/// The chute's wall takes the freeboard named for the downstream canal and the other way round: they are crossed here
+/// on purpose.
+void alturas(DesignState& e, const Form2& p) {
+  e.hAbajo = e.ynAbajo + Val(p.Text6.Text);
+  e.hAbajo = enRejilla(e.hAbajo);
+  e.hRapida = e.yFin + Val(p.Text8.Text);
+  e.hRapida = enRejilla(e.hRapida);
+  e.hPoza = e.y2 + Val(p.Text7.Text);
+  e.hPoza = enRejilla(e.hPoza);
+  if (e.cotaAbajo + e.hAbajo > e.cotaPoza + e.hPoza) e.hPoza = e.cotaAbajo + e.hAbajo - e.cotaPoza;
+  e.hPoza = enRejilla(e.hPoza);
+}
+
+void espejos(DesignState& e) {
+  e.espejoArriba = 2 * e.hArriba * e.zArriba + e.bArriba;
+  e.espejoAbajo = 2 * e.hAbajo * e.zAbajo + e.bAbajo;
+  e.espejoRapida = 2 * e.hRapida * e.zRapida + e.bRapida;
+  e.espejoPoza = 2 * e.hPoza * e.zPoza + e.bPoza;
+}
+
+}  // namespace
+
+bool calcularRapida(DesignState& e, const Form2& p, PantallaRapida& pantalla) {
+  canalArriba(e, p, pantalla);
+  Single y0;
+  if (!comprobarRegimen(e, pantalla, y0)) return false;
+
+  e.ycControl = y0;
+  LONGTRANSENTRADA(e);
+  bool completo = false;
+  y0 = perfilRapida(e, y0, pantalla, completo);
+  if (!completo) return false;
+  finDeRapida(e, y0);
+
+  resalto(e, pantalla.dialogos());
+  avisarAncho(e, pantalla.dialogos());
+  trayectoria(e, pantalla);
+
+  SELECCIONARTANQUE(pantalla.tablaTanques(), e, p, {e.zPoza, e.v1, "F= "});
+  alturas(e, p);
+  LONGTRANSSALIDA(e);
+  espejos(e);
+
+  const Single kAhogamiento = razonAhogamiento(e);
+  if (!(kAhogamiento < 0)) pantalla.mostrarAhogamiento("k=  " + texto(Round(kAhogamiento * 100, 2)) + "%  ;Y2=h+Yw");
+  pantalla.habilitarResultados();
+  LONGPOZA(e, p, pantalla.dialogos());
+  return true;
+}
+
+}  // namespace calvento
