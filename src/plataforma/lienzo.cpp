@@ -1,5 +1,6 @@
 #include "plataforma/lienzo.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -10,12 +11,31 @@ namespace {
 bool utilizable(double v) { return std::isfinite(v); }
 bool utilizable(Punto p) { return utilizable(p.x) && utilizable(p.y); }
 
+/// Gives each point that lacks the coordinate the one of the point before it; the points before the first usable one
+/// take that one's. False where no point has it.
+bool completar(std::vector<Punto>& puntos, double Punto::*coordenada) {
+  const auto primero =
+      std::find_if(puntos.begin(), puntos.end(), [&](const Punto& p) { return utilizable(p.*coordenada); });
+  if (primero == puntos.end()) return false;
+  double anterior = (*primero).*coordenada;
+  for (Punto& p : puntos) {
+    if (!utilizable(p.*coordenada)) p.*coordenada = anterior;
+    anterior = p.*coordenada;
+  }
+  return true;
+}
+
 }  // namespace
 
 void Lienzo::redimensionar(int anchoPixeles, int altoPixeles) {
   anchoPixeles_ = anchoPixeles;
   altoPixeles_ = altoPixeles;
   ++version_;
+}
+
+void Lienzo::redimensionarSinCrecer(int anchoPixeles, int altoPixeles) {
+  altoReferencia_ = altoPixeles;
+  redimensionar(anchoPixeles, altoPixeles);
 }
 
 void Lienzo::Scale(double x1, double y1, double x2, double y2) {
@@ -29,50 +49,56 @@ void Lienzo::Cls() {
   ++version_;
 }
 
+void Lienzo::moverA(Punto p) {
+  CurrentX = p.x;
+  CurrentY = p.y;
+}
+
+void Lienzo::anadir(Primitiva p) {
+  primitivas_.push_back(std::move(p));
+  ++version_;
+}
+
 void Lienzo::Line(Punto a, Punto b) { Line(a, b, ForeColor); }
 
 void Lienzo::Line(Punto a, Punto b, Color color) {
-  CurrentX = b.x;
-  CurrentY = b.y;
   if (!utilizable(a) || !utilizable(b)) return;
-  primitivas_.emplace_back(PrimLinea{a, b, pluma(color)});
-  ++version_;
+  moverA(b);
+  anadir(PrimLinea{a, b, pluma(color)});
 }
 
 void Lienzo::LineA(Punto b) { LineA(b, ForeColor); }
 void Lienzo::LineA(Punto b, Color color) { Line({CurrentX, CurrentY}, b, color); }
 
 void Lienzo::LineCaja(Punto a, Punto b, Color color) {
-  CurrentX = b.x;
-  CurrentY = b.y;
   if (!utilizable(a) || !utilizable(b)) return;
-  primitivas_.emplace_back(PrimCaja{a, b, pluma(color), {FillColor, FillStyle}});
-  ++version_;
+  moverA(b);
+  anadir(PrimCaja{a, b, pluma(color), {FillColor, FillStyle}});
+}
+
+void Lienzo::Polyline(std::vector<Punto> puntos) { Polyline(std::move(puntos), ForeColor); }
+
+void Lienzo::Polyline(std::vector<Punto> puntos, Color color) {
+  std::erase_if(puntos, [](Punto p) { return !utilizable(p); });
+  if (puntos.empty()) return;
+  moverA(puntos.back());
+  if (puntos.size() > 1) anadir(PrimPolilinea{std::move(puntos), pluma(color)});
 }
 
 void Lienzo::Circle(Punto centro, double radio) {
   if (!utilizable(centro) || !utilizable(radio)) return;
-  primitivas_.emplace_back(PrimCirculo{centro, radio, pluma(ForeColor), {FillColor, FillStyle}});
-  ++version_;
+  moverA(centro);
+  anadir(PrimCirculo{centro, radio, pluma(ForeColor), {FillColor, FillStyle}});
 }
 
 void Lienzo::Polygon(std::vector<Punto> puntos) {
-  if (puntos.empty()) return;
-  // the number of points never changes: a point without a usable coordinate repeats the one before it
-  std::size_t primero = 0;
-  while (primero < puntos.size() && !utilizable(puntos[primero])) ++primero;
-  if (primero == puntos.size()) return;
-  for (std::size_t i = 0; i < primero; ++i) puntos[i] = puntos[primero];
-  for (std::size_t i = primero + 1; i < puntos.size(); ++i)
-    if (!utilizable(puntos[i])) puntos[i] = puntos[i - 1];
-  primitivas_.emplace_back(PrimPoligono{std::move(puntos), pluma(ForeColor), {FillColor, FillStyle}});
-  ++version_;
+  if (!completar(puntos, &Punto::x) || !completar(puntos, &Punto::y)) return;
+  anadir(PrimPoligono{std::move(puntos), pluma(ForeColor), {FillColor, FillStyle}});
 }
 
 void Lienzo::Print(std::string texto) {
   if (!utilizable(Punto{CurrentX, CurrentY}) || !utilizable(Font.puntos) || !utilizable(Font.angulo)) return;
-  primitivas_.emplace_back(PrimTexto{{CurrentX, CurrentY}, std::move(texto), ForeColor, Font});
-  ++version_;
+  anadir(PrimTexto{{CurrentX, CurrentY}, std::move(texto), ForeColor, Font});
 }
 
 }  // namespace calvento

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
+#include <memory>
 #include <string>
 #include <variant>
 #include <vector>
@@ -39,14 +41,18 @@ struct Relleno {
   Color color = color::negro;
   EstiloRelleno estilo = EstiloRelleno::vacio;
 };
-/// Height of a font: in points at the canvas's own size, so that a text grows with the picture.
 struct Letra {
   std::string familia = "Arial";
+  /// Size in points (96 pixels to the inch) where the picture stands at its reference height; in a picture of twice the
+  /// height the text is twice as large.
   double puntos = 8;
   bool negrita = false;
   bool subrayada = false;
   double angulo = 0;  ///< degrees counter-clockwise
 };
+
+/// A coordinate that could not be computed: what a figure hands over in the place of a failed value.
+inline constexpr double sinValor = std::numeric_limits<double>::quiet_NaN();
 
 struct PrimLinea {
   Punto a, b;
@@ -82,15 +88,23 @@ struct PrimTexto {
 using Primitiva = std::variant<PrimLinea, PrimPolilinea, PrimPoligono, PrimCaja, PrimCirculo, PrimTexto>;
 
 /// A retained picture in world coordinates. It paints nothing: a figure fills it, a painter replays it at any size.
-/// A primitive with a coordinate that is not a number is left out, and a polygon point that is not a number repeats
-/// the point before it.
+/// What cannot be computed (a coordinate that is not a finite number) is passed over as a failed statement is: a line,
+/// box, circle or text without a usable coordinate is left out and the pen stays; each coordinate of a polygon point
+/// that has no value keeps the one of the point before it, so that a polygon never changes its number of points.
 class Lienzo {
  public:
-  /// Size of the picture's inner area in pixels at its design resolution (15 twips to the pixel).
-  Lienzo(int anchoPixeles, int altoPixeles) : anchoPixeles_(anchoPixeles), altoPixeles_(altoPixeles) {}
+  /// Size of the picture's inner area in pixels at its design resolution (15 twips to the pixel). The height given
+  /// here is also the reference height of the texts.
+  Lienzo(int anchoPixeles, int altoPixeles)
+      : anchoPixeles_(anchoPixeles), altoPixeles_(altoPixeles), altoReferencia_(altoPixeles) {}
   int anchoPixeles() const { return anchoPixeles_; }
   int altoPixeles() const { return altoPixeles_; }
+  /// Gives the picture another size. Its texts, line widths and hatches grow with its height.
   void redimensionar(int anchoPixeles, int altoPixeles);
+  /// The height in pixels at which a point of text is a point and a pixel of line width a pixel.
+  int altoReferencia() const { return altoReferencia_; }
+  /// Another size at which texts and lines keep theirs, as those of a ruler do.
+  void redimensionarSinCrecer(int anchoPixeles, int altoPixeles);
 
   /// Top-left corner (x1, y1), bottom-right corner (x2, y2).
   void Scale(double x1, double y1, double x2, double y2);
@@ -107,8 +121,12 @@ class Lienzo {
   void LineA(Punto b);
   void LineA(Punto b, Color color);
   void LineCaja(Punto a, Punto b, Color color);  ///< rectangle filled as FillColor and FillStyle say
-  void Circle(Punto centro, double radio);
+  /// One line through all points; a point without a usable coordinate is left out. The pen moves on to the last one.
+  void Polyline(std::vector<Punto> puntos);
+  void Polyline(std::vector<Punto> puntos, Color color);
+  void Circle(Punto centro, double radio);  ///< the radius in units of the horizontal axis
   void Polygon(std::vector<Punto> puntos);
+  /// A text with the top-left corner of its first character at CurrentX, CurrentY.
   void Print(std::string texto);
 
   double CurrentX = 0;
@@ -125,13 +143,22 @@ class Lienzo {
   std::uint64_t version() const { return version_; }
 
  private:
+  void moverA(Punto p);
+  void anadir(Primitiva p);
   Pluma pluma(Color color) const { return {color, DrawStyle, DrawWidth}; }
 
   int anchoPixeles_;
   int altoPixeles_;
+  int altoReferencia_;
   EscalaLienzo escala_;
   std::vector<Primitiva> primitivas_;
   std::uint64_t version_ = 0;
+};
+
+/// A dotted rectangle that is stretched over a picture while a region is being chosen; it is no part of the picture.
+struct Recuadro {
+  bool visible = false;
+  Punto a, b;  ///< opposite corners, in world coordinates
 };
 
 /// The control that shows a canvas.
@@ -140,6 +167,7 @@ class PictureBox : public Control {
   PictureBox(Ventana& v, std::string_view nombre, int anchoPixeles, int altoPixeles)
       : Control(v, nombre), lienzo(anchoPixeles, altoPixeles) {}
   Lienzo lienzo;
+  Recuadro recuadro;
   /// Tells the one that shows it that the picture is ready.
   void cambiado() { disparar(alCambiar); }
   /// Pointer events, in world coordinates.
@@ -148,6 +176,12 @@ class PictureBox : public Control {
   std::function<void(Punto)> MouseUp;
   /// The box on screen has another inner size, in pixels.
   std::function<void(int ancho, int alto)> Resize;
+
+  /// Empty as soon as the control is gone: a widget may outlive the window it shows.
+  std::weak_ptr<PictureBox> vinculo() const { return propio_; }
+
+ private:
+  std::shared_ptr<PictureBox> propio_{this, [](PictureBox*) {}};
 };
 
 }  // namespace calvento

@@ -1,0 +1,101 @@
+#include "qt/exportar_dibujo.h"
+
+#include <stdexcept>
+
+#include <QBuffer>
+#include <QByteArray>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QImage>
+#include <QMarginsF>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QSvgGenerator>
+
+#include "qt/cadena.h"
+#include "qt/pintor.h"
+
+namespace calvento {
+
+namespace {
+
+constexpr int pixelesPorPulgada = 96;
+constexpr int resolucionPdf = 1200;
+
+/// Fonts need an application object. It stays until the program ends: taking it down and up again is not foreseen.
+void asegurarAplicacion() {
+  if (QCoreApplication::instance() != nullptr) return;
+  static char nombre[] = "calvento";
+  static char opcion[] = "-platform";
+  static char valor[] = "offscreen";
+  static char* argumentos[] = {nombre, opcion, valor, nullptr};
+  static int cuantos = 3;
+  static QGuiApplication* aplicacion = new QGuiApplication(cuantos, argumentos);
+  static_cast<void>(aplicacion);
+}
+
+void comoSvg(const Lienzo& lienzo, QIODevice& salida) {
+  const QRect hoja(0, 0, lienzo.anchoPixeles(), lienzo.altoPixeles());
+  QSvgGenerator generador;
+  generador.setOutputDevice(&salida);
+  generador.setResolution(pixelesPorPulgada);
+  generador.setSize(hoja.size());
+  generador.setViewBox(hoja);
+  generador.setTitle("Calvento");
+  QPainter pintor(&generador);
+  pintar(lienzo, pintor, QRectF(hoja));
+}
+
+void comoPdf(const Lienzo& lienzo, QIODevice& salida) {
+  const QSizeF puntos = QSizeF(lienzo.anchoPixeles(), lienzo.altoPixeles()) * 72.0 / pixelesPorPulgada;
+  QPdfWriter escritor(&salida);
+  escritor.setCreator("Calvento");
+  escritor.setResolution(resolucionPdf);
+  escritor.setPageSize(QPageSize(puntos, QPageSize::Point, {}, QPageSize::ExactMatch));
+  escritor.setPageMargins(QMarginsF());
+  QPainter pintor(&escritor);
+  pintar(lienzo, pintor, QRectF(QPointF(0, 0), puntos * resolucionPdf / 72.0));
+}
+
+bool comoPng(const Lienzo& lienzo, QIODevice& salida) {
+  QImage imagen(lienzo.anchoPixeles(), lienzo.altoPixeles(), QImage::Format_RGB32);
+  const int puntosPorMetro = static_cast<int>(pixelesPorPulgada / 0.0254);
+  imagen.setDotsPerMeterX(puntosPorMetro);
+  imagen.setDotsPerMeterY(puntosPorMetro);
+  {
+    QPainter pintor(&imagen);
+    pintar(lienzo, pintor, QRectF(imagen.rect()));
+  }
+  return imagen.save(&salida, "PNG");
+}
+
+}  // namespace
+
+void exportarDibujo(const Lienzo& lienzo, const std::string& archivo) {
+  const QString nombre = aQt(archivo);
+  const QString extension = QFileInfo(nombre).suffix().toLower();
+  if (extension != "svg" && extension != "pdf" && extension != "png")
+    throw std::runtime_error("El dibujo se escribe como .svg, .pdf o .png: " + archivo);
+  if (lienzo.anchoPixeles() <= 0 || lienzo.altoPixeles() <= 0) throw std::runtime_error("El dibujo no tiene tamaño");
+  asegurarAplicacion();
+
+  QByteArray datos;
+  QBuffer memoria(&datos);
+  memoria.open(QIODevice::WriteOnly);
+  bool listo = true;
+  if (extension == "svg")
+    comoSvg(lienzo, memoria);
+  else if (extension == "pdf")
+    comoPdf(lienzo, memoria);
+  else
+    listo = comoPng(lienzo, memoria);
+  if (!listo || datos.isEmpty()) throw std::runtime_error("No se pudo hacer el dibujo " + archivo);
+
+  QSaveFile salida(nombre);
+  if (!salida.open(QIODevice::WriteOnly) || salida.write(datos) != datos.size() || !salida.commit())
+    throw std::runtime_error("No se puede escribir " + archivo + ": " + deQt(salida.errorString()));
+}
+
+}  // namespace calvento

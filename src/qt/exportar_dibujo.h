@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+#include "plataforma/lienzo.h"
+
+namespace calvento {
+
+/// Writes the picture at its own size as SVG, PDF or PNG, by the file's extension (capitals ignored). SVG and PDF are
+/// vectors with real text, on a sheet of the picture's size at 96 pixels to the inch. The file appears whole or not at
+/// all. Needs no display and no running application.
+/// Throws std::runtime_error with a Spanish text for an unknown extension and for a file that cannot be written.
+void exportarDibujo(const Lienzo& lienzo, const std::string& archivo);
+
+}  // namespace calvento

@@ -1,0 +1,205 @@
+#include "qt/pintor.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include <QFont>
+#include <QPaintDevice>
+#include <QPainter>
+
+#include "plataforma/medidas.h"
+#include "qt/cadena.h"
+#include "qt/recorte.h"
+
+namespace calvento {
+
+namespace {
+
+constexpr double pasoRayado = 8;  ///< pixels between the strokes of a hatch
+constexpr double pixelesPorPunto = static_cast<double>(twipsPorPunto) / twipsPorPixel;
+/// Fonts are made between these sizes; beyond them a font of the limit is stretched, since font machines round small
+/// sizes to whole pixels and refuse huge ones.
+constexpr double menorLetra = 6;
+constexpr double mayorLetra = 500;
+
+/// Desktop colours have no place on paper: whatever the desktop's theme, such ink is black.
+QColor tinta(Color c) { return c.esDelSistema() ? QColor(Qt::black) : QColor(c.rojo(), c.verde(), c.azul()); }
+
+QVector<qreal> trazos(EstiloLinea estilo) {
+  switch (estilo) {
+    case EstiloLinea::guiones:
+      return {12, 5};
+    case EstiloLinea::puntos:
+      return {2, 3};
+    case EstiloLinea::guionPunto:
+      return {9, 4, 2, 4};
+    case EstiloLinea::guionPuntoPunto:
+      return {9, 3, 2, 3, 2, 3};
+    case EstiloLinea::solida:
+      break;
+  }
+  return {};
+}
+
+class Repeticion {
+ public:
+  Repeticion(const Lienzo& lienzo, QPainter& pintor, const QRectF& destino)
+      : pintor_(pintor),
+        destino_(destino),
+        escala_(lienzo.escala()),
+        x_(destino.width() / escala_.ancho),
+        y_(destino.height() / escala_.alto),
+        factor_(destino.height() / std::max(lienzo.altoReferencia(), 1)) {
+    const double margen = 64 * factor_ + 64;  // room for the width of a line whose course lies just outside
+    marco_ = destino.adjusted(-margen, -margen, margen, margen);
+  }
+
+  void operator()(const PrimLinea& p) { linea(QLineF(punto(p.a), punto(p.b)), p.pluma); }
+
+  void operator()(const PrimPolilinea& p) {
+    QPolygonF puntos;
+    for (const Punto& q : p.puntos) puntos << punto(q);
+    if (marco_.contains(puntos.boundingRect())) {
+      usar(p.pluma);
+      pintor_.setBrush(Qt::NoBrush);
+      pintor_.drawPolyline(puntos);
+    } else {
+      for (qsizetype i = 1; i < puntos.size(); ++i) linea(QLineF(puntos[i - 1], puntos[i]), p.pluma);
+    }
+  }
+
+  void operator()(const PrimPoligono& p) {
+    QPolygonF puntos;
+    for (const Punto& q : p.puntos) puntos << punto(q);
+    superficie(std::move(puntos), p.pluma, p.relleno);
+  }
+
+  void operator()(const PrimCaja& p) {
+    const QPointF a = punto(p.a);
+    const QPointF b = punto(p.b);
+    superficie(QPolygonF({a, {b.x(), a.y()}, b, {a.x(), b.y()}}), p.pluma, p.relleno);
+  }
+
+  void operator()(const PrimCirculo& p) {
+    constexpr int lados = 72;  // one corner every five degrees: round at any size that fits a sheet
+    const QPointF c = punto(p.centro);
+    const double r = std::fabs(p.radio * x_);
+    QPolygonF puntos;
+    for (int i = 0; i < lados; ++i) {
+      const double a = 2 * M_PI * i / lados;
+      puntos << c + QPointF(r * std::cos(a), r * std::sin(a));
+    }
+    superficie(std::move(puntos), p.pluma, p.relleno);
+  }
+
+  void operator()(const PrimTexto& p) {
+    const double pixeles = p.letra.puntos * pixelesPorPunto * factor_;
+    const double alcance = pixeles * (static_cast<double>(p.texto.size()) + 1);
+    const QPointF en = punto(p.en);
+    if (!(pixeles > 0) || !destino_.adjusted(-alcance, -alcance, alcance, alcance).contains(en)) return;
+    const double hecha = std::clamp(pixeles, menorLetra, mayorLetra);
+    usar(p.letra, hecha);
+    pintor_.setPen(tinta(p.color));
+    pintor_.save();
+    pintor_.translate(en);
+    if (p.letra.angulo != 0) pintor_.rotate(-p.letra.angulo);
+    if (hecha != pixeles) pintor_.scale(pixeles / hecha, pixeles / hecha);
+    pintor_.drawText(QPointF(0, ascensoLetra * hecha), aQt(p.texto));
+    pintor_.restore();
+  }
+
+ private:
+  QPointF punto(Punto p) const {
+    return {destino_.left() + (p.x - escala_.izquierda) * x_, destino_.top() + (p.y - escala_.arriba) * y_};
+  }
+
+  void usar(const Pluma& pluma) {
+    // a line never becomes thinner than a hair that the eye finds
+    const double ancho = std::max(pluma.grosor * factor_, std::min(factor_, 0.8));
+    QPen p(tinta(pluma.color), ancho, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
+    if (pluma.estilo != EstiloLinea::solida) {
+      QVector<qreal> t = trazos(pluma.estilo);
+      for (qreal& largo : t) largo *= factor_ / ancho;
+      p.setDashPattern(t);
+    }
+    pintor_.setPen(p);
+  }
+
+  void usar(const Letra& letra, double pixeles) {
+    if (letraEnUso_ && letraEnUso_->familia == letra.familia && letraEnUso_->negrita == letra.negrita &&
+        letraEnUso_->subrayada == letra.subrayada && pixelesEnUso_ == pixeles)
+      return;
+    QFont f;
+    f.setFamilies({aQt(letra.familia), "Liberation Sans", "Helvetica", "Nimbus Sans", "DejaVu Sans"});
+    f.setStyleHint(QFont::SansSerif);
+    f.setBold(letra.negrita);
+    f.setUnderline(letra.subrayada);
+    f.setHintingPreference(QFont::PreferNoHinting);  // else a text's width would jump with its size
+    f.setPointSizeF(pixeles * 72.0 / pintor_.device()->logicalDpiY());
+    pintor_.setFont(f);
+    letraEnUso_ = letra;
+    pixelesEnUso_ = pixeles;
+  }
+
+  void linea(const QLineF& l, const Pluma& pluma) {
+    const QLineF visible = recortar(l, marco_);
+    if (visible.isNull()) return;
+    usar(pluma);
+    pintor_.drawLine(visible);
+  }
+
+  void superficie(QPolygonF puntos, const Pluma& pluma, const Relleno& relleno) {
+    const QRectF caja = puntos.boundingRect();
+    if (caja.left() > marco_.right() || caja.right() < marco_.left() || caja.top() > marco_.bottom() ||
+        caja.bottom() < marco_.top())
+      return;
+    if (!marco_.contains(caja)) puntos = recortar(puntos, marco_);
+    if (puntos.isEmpty()) return;
+    if (relleno.estilo == EstiloRelleno::cruzadoDiagonal) {
+      usar(Pluma{relleno.color, EstiloLinea::solida, 1});
+      const auto rayas = rayadoCruzado(puntos, destino_.topLeft(), pasoRayado * factor_);
+      pintor_.drawLines(rayas.data(), static_cast<int>(rayas.size()));
+    }
+    if (relleno.estilo == EstiloRelleno::solido)
+      pintor_.setBrush(tinta(relleno.color));
+    else
+      pintor_.setBrush(Qt::NoBrush);
+    usar(pluma);
+    pintor_.drawPolygon(puntos, Qt::OddEvenFill);
+  }
+
+  QPainter& pintor_;
+  QRectF destino_;
+  QRectF marco_;
+  EscalaLienzo escala_;
+  double x_;
+  double y_;
+  double factor_;
+  std::optional<Letra> letraEnUso_;
+  double pixelesEnUso_ = 0;
+};
+
+}  // namespace
+
+void pintar(const Lienzo& lienzo, QPainter& pintor, const QRectF& destino) {
+  pintor.save();
+  pintor.setClipRect(destino, Qt::IntersectClip);
+  pintor.fillRect(destino, Qt::white);
+  pintor.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+  pintor.setLayoutDirection(Qt::LeftToRight);
+  if (lienzo.ScaleWidth() != 0 && lienzo.ScaleHeight() != 0 && !destino.isEmpty()) {
+    Repeticion repeticion(lienzo, pintor, destino);
+    for (const Primitiva& p : lienzo.primitivas()) std::visit(repeticion, p);
+  }
+  pintor.restore();
+}
+
+QRectF encuadre(const Lienzo& lienzo, const QRectF& pagina) {
+  if (lienzo.anchoPixeles() <= 0 || lienzo.altoPixeles() <= 0) return pagina;
+  const QSizeF t = QSizeF(lienzo.anchoPixeles(), lienzo.altoPixeles()).scaled(pagina.size(), Qt::KeepAspectRatio);
+  return {pagina.left() + (pagina.width() - t.width()) / 2, pagina.top() + (pagina.height() - t.height()) / 2,
+          t.width(), t.height()};
+}
+
+}  // namespace calvento

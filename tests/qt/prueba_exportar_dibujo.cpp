@@ -1,0 +1,144 @@
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <string>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QSvgRenderer>
+#include <QTemporaryDir>
+
+#include "plataforma/lienzo.h"
+#include "qt/cadena.h"
+#include "qt/exportar_dibujo.h"
+
+namespace calvento {
+namespace {
+
+Lienzo muestra() {
+  Lienzo l(865, 433);
+  l.Scale(0, 108.66, 17.3, 100);
+  l.FillStyle = EstiloRelleno::cruzadoDiagonal;
+  l.FillColor = color::grisClaro;
+  l.Polygon({{1, 101}, {9, 101}, {9, 103}, {1, 103}});
+  l.DrawStyle = EstiloLinea::guionPunto;
+  l.Line({0, 104}, {17, 104}, color::rojo);
+  l.ForeColor = color::azulClaro;
+  l.Font.puntos = 12;
+  l.CurrentX = 2;
+  l.CurrentY = 107;
+  l.Print("Canal aguas arriba; m³/s");
+  return l;
+}
+
+QByteArray leer(const QString& nombre) {
+  QFile f(nombre);
+  return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+QString salidaDe(const QString& programa, const QStringList& argumentos) {
+  QProcess p;
+  p.start(programa, argumentos);
+  p.waitForFinished();
+  return QString::fromUtf8(p.readAllStandardOutput());
+}
+
+class Exportar : public testing::Test {
+ protected:
+  QString ruta(const char* nombre) const { return carpeta_.filePath(nombre); }
+  QTemporaryDir carpeta_;
+};
+
+TEST_F(Exportar, SvgConTextosYElMismoDibujoQueElPng) {
+  exportarDibujo(muestra(), deQt(ruta("a.svg")));
+  exportarDibujo(muestra(), deQt(ruta("a.PNG")));
+  const QString svg = QString::fromUtf8(leer(ruta("a.svg")));
+  EXPECT_TRUE(svg.contains("<text"));
+  EXPECT_TRUE(svg.contains("Canal aguas arriba; m³/s"));
+  EXPECT_FALSE(svg.contains("<image"));
+
+  const QImage png(ruta("a.PNG"));
+  ASSERT_EQ(png.size(), QSize(865, 433));
+  QImage deSvg(png.size(), QImage::Format_RGB32);
+  deSvg.fill(Qt::white);
+  QSvgRenderer lector(ruta("a.svg"));
+  ASSERT_TRUE(lector.isValid());
+  QPainter p(&deSvg);
+  lector.render(&p);
+  p.end();
+  int distintos = 0;
+  for (int y = 0; y < png.height(); ++y)
+    for (int x = 0; x < png.width(); ++x)
+      distintos += std::abs(png.pixelColor(x, y).lightness() - deSvg.pixelColor(x, y).lightness()) > 100;
+  EXPECT_LT(distintos, 600);
+}
+
+TEST_F(Exportar, PdfConLetrasDeSuTamano) {
+  exportarDibujo(muestra(), deQt(ruta("a.pdf")));
+  const QByteArray pdf = leer(ruta("a.pdf"));
+  EXPECT_TRUE(pdf.startsWith("%PDF"));
+  EXPECT_TRUE(pdf.contains("/FontFile"));
+  EXPECT_FALSE(pdf.contains("/Subtype /Image"));
+  if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "pdftotext is not installed";
+  const QString texto = salidaDe("pdftotext", {"-bbox", ruta("a.pdf"), "-"});
+  const QRegularExpression patron(R"re(xMin="([\d.]+)" yMin="[\d.]+" xMax="([\d.]+)" yMax="[\d.]+">aguas<)re");
+  const auto palabra = patron.match(texto);
+  ASSERT_TRUE(palabra.hasMatch()) << texto.toStdString();
+  // 12 points; "aguas" is 2.724 of the size wide in this face's metrics
+  const double ancho = palabra.captured(2).toDouble() - palabra.captured(1).toDouble();
+  EXPECT_NEAR(ancho, 12 * 2.724, 12 * 0.15);
+  const auto hoja = QRegularExpression(R"re(page width="([\d.]+)" height="([\d.]+)")re").match(texto);
+  EXPECT_NEAR(hoja.captured(1).toDouble(), 865 * 0.75, 1);
+  EXPECT_NEAR(hoja.captured(2).toDouble(), 433 * 0.75, 1);
+}
+
+TEST_F(Exportar, ElPdfNoDependeDelAumentoDeLaPantalla) {
+  // this very program writes the file again with the desktop scaled to 125 %
+  if (const QByteArray destino = qgetenv("CALVENTO_PRUEBA_PDF"); !destino.isEmpty()) {
+    exportarDibujo(muestra(), destino.toStdString());
+    return;
+  }
+  if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "pdftotext is not installed";
+  QString cajas[2];
+  const char* aumentos[] = {"1", "1.25"};
+  for (int i = 0; i < 2; ++i) {
+    const QString archivo = ruta(i == 0 ? "uno.pdf" : "otro.pdf");
+    QProcess p;
+    QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
+    entorno.insert("QT_SCALE_FACTOR", aumentos[i]);
+    entorno.insert("QT_QPA_PLATFORM", "offscreen");
+    entorno.insert("CALVENTO_PRUEBA_PDF", archivo);
+    p.setProcessEnvironment(entorno);
+    p.start(QCoreApplication::applicationFilePath(), {"--gtest_filter=Exportar.ElPdfNoDependeDelAumentoDeLaPantalla"});
+    ASSERT_TRUE(p.waitForFinished(60000));
+    cajas[i] = salidaDe("pdftotext", {"-bbox", archivo, "-"});
+  }
+  EXPECT_TRUE(cajas[0].contains("aguas"));
+  EXPECT_EQ(cajas[0], cajas[1]);
+}
+
+TEST_F(Exportar, LoQueNoSePuedeEscribirSeDiceYNoDejaRastro) {
+  for (const char* malo : {"a.bmp", "sin_extension", "no/hay/carpeta.svg"}) {
+    try {
+      exportarDibujo(muestra(), deQt(ruta(malo)));
+      ADD_FAILURE() << malo;
+    } catch (const std::runtime_error& e) {
+      EXPECT_NE(std::string(e.what()).find("ib"), std::string::npos) << e.what();  // "dibujo", "escribir"
+    }
+    EXPECT_FALSE(QFile::exists(ruta(malo)));
+  }
+  // an existing file is replaced as a whole or stays as it was
+  exportarDibujo(muestra(), deQt(ruta("b.svg")));
+  const QByteArray antes = leer(ruta("b.svg"));
+  EXPECT_THROW(exportarDibujo(Lienzo(0, 0), deQt(ruta("b.svg"))), std::runtime_error);
+  EXPECT_EQ(leer(ruta("b.svg")), antes);
+}
+
+}  // namespace
+}  // namespace calvento
