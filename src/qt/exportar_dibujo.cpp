@@ -1,5 +1,6 @@
 #include "qt/exportar_dibujo.h"
 
+#include <cstdio>
 #include <stdexcept>
 
 #include <QBuffer>
@@ -24,7 +25,13 @@ namespace {
 constexpr int pixelesPorPulgada = 96;
 constexpr int resolucionPdf = 1200;
 
-/// Fonts need an application object. It stays until the program ends: taking it down and up again is not foreseen.
+/// Keeps quiet about a missing directory for run-time files, which batch machines often lack and drawings do not need.
+void callarCarpetas(QtMsgType tipo, const QMessageLogContext& contexto, const QString& texto) {
+  if (texto.startsWith("QStandardPaths:")) return;
+  std::fputs(qPrintable(qFormatLogMessage(tipo, contexto, texto) + '\n'), stderr);
+}
+
+/// Fonts need an application object, which then stays until the program ends.
 void asegurarAplicacion() {
   if (QCoreApplication::instance() != nullptr) return;
   static char nombre[] = "calvento";
@@ -32,8 +39,9 @@ void asegurarAplicacion() {
   static char valor[] = "offscreen";
   static char* argumentos[] = {nombre, opcion, valor, nullptr};
   static int cuantos = 3;
-  static QGuiApplication* aplicacion = new QGuiApplication(cuantos, argumentos);
-  static_cast<void>(aplicacion);
+  const QtMessageHandler antes = qInstallMessageHandler(callarCarpetas);
+  static QGuiApplication aplicacion(cuantos, argumentos);
+  qInstallMessageHandler(antes);
 }
 
 void comoSvg(const Lienzo& lienzo, QIODevice& salida) {

@@ -5,7 +5,6 @@
 #include <optional>
 
 #include <QFont>
-#include <QPaintDevice>
 #include <QPainter>
 
 #include "plataforma/medidas.h"
@@ -18,10 +17,9 @@ namespace {
 
 constexpr double pasoRayado = 8;  ///< pixels between the strokes of a hatch
 constexpr double pixelesPorPunto = static_cast<double>(twipsPorPunto) / twipsPorPixel;
-/// Fonts are made between these sizes; beyond them a font of the limit is stretched, since font machines round small
-/// sizes to whole pixels and refuse huge ones.
-constexpr double menorLetra = 6;
-constexpr double mayorLetra = 500;
+/// Every font is made at this size in pixels and stretched to the one wanted: font machines round the advance of small
+/// letters to whole pixels and refuse huge ones, and a text must be equally wide on screen and on paper.
+constexpr double letraHecha = 64;
 
 /// Desktop colours have no place on paper: whatever the desktop's theme, such ink is black.
 QColor tinta(Color c) { return c.esDelSistema() ? QColor(Qt::black) : QColor(c.rojo(), c.verde(), c.azul()); }
@@ -98,14 +96,13 @@ class Repeticion {
     const double alcance = pixeles * (static_cast<double>(p.texto.size()) + 1);
     const QPointF en = punto(p.en);
     if (!(pixeles > 0) || !destino_.adjusted(-alcance, -alcance, alcance, alcance).contains(en)) return;
-    const double hecha = std::clamp(pixeles, menorLetra, mayorLetra);
-    usar(p.letra, hecha);
+    usar(p.letra);
     pintor_.setPen(tinta(p.color));
     pintor_.save();
     pintor_.translate(en);
     if (p.letra.angulo != 0) pintor_.rotate(-p.letra.angulo);
-    if (hecha != pixeles) pintor_.scale(pixeles / hecha, pixeles / hecha);
-    pintor_.drawText(QPointF(0, ascensoLetra * hecha), aQt(p.texto));
+    pintor_.scale(pixeles / letraHecha, pixeles / letraHecha);
+    pintor_.drawText(QPointF(0, ascensoLetra * letraHecha), aQt(p.texto));
     pintor_.restore();
   }
 
@@ -126,20 +123,19 @@ class Repeticion {
     pintor_.setPen(p);
   }
 
-  void usar(const Letra& letra, double pixeles) {
+  void usar(const Letra& letra) {
     if (letraEnUso_ && letraEnUso_->familia == letra.familia && letraEnUso_->negrita == letra.negrita &&
-        letraEnUso_->subrayada == letra.subrayada && pixelesEnUso_ == pixeles)
+        letraEnUso_->subrayada == letra.subrayada)
       return;
     QFont f;
     f.setFamilies({aQt(letra.familia), "Liberation Sans", "Helvetica", "Nimbus Sans", "DejaVu Sans"});
     f.setStyleHint(QFont::SansSerif);
     f.setBold(letra.negrita);
     f.setUnderline(letra.subrayada);
-    f.setHintingPreference(QFont::PreferNoHinting);  // else a text's width would jump with its size
-    f.setPointSizeF(pixeles * 72.0 / pintor_.device()->logicalDpiY());
+    f.setHintingPreference(QFont::PreferNoHinting);
+    f.setPixelSize(static_cast<int>(letraHecha));
     pintor_.setFont(f);
     letraEnUso_ = letra;
-    pixelesEnUso_ = pixeles;
   }
 
   void linea(const QLineF& l, const Pluma& pluma) {
@@ -177,7 +173,6 @@ class Repeticion {
   double y_;
   double factor_;
   std::optional<Letra> letraEnUso_;
-  double pixelesEnUso_ = 0;
 };
 
 }  // namespace

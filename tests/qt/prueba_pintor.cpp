@@ -1,10 +1,12 @@
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <string>
 
 #include <QImage>
 #include <QPainter>
 
 #include "plataforma/lienzo.h"
+#include "plataforma/medidas.h"
 #include "qt/pintor.h"
 #include "qt/recorte.h"
 
@@ -121,6 +123,19 @@ TEST(Pintor, ElTextoCreceConElDibujo) {
   EXPECT_EQ(tintaDe(imagenDe(l)), dos) << "a larger canvas is the same as a larger picture";
   l.redimensionarSinCrecer(800, 400);
   EXPECT_NEAR(tintaDe(imagenDe(l)).width(), uno.width(), 3) << "a ruler's text keeps its size";
+}
+
+TEST(Pintor, UnTextoEsTanAnchoComoDiceLaTablaDeMedidas) {
+  for (const double puntos : {6.0, 8.0, 11.5}) {
+    Lienzo l = hoja();
+    l.Font.puntos = puntos;
+    l.CurrentX = 1;
+    l.CurrentY = 104;
+    const std::string texto = "Canal aguas arriba; s=-0.001 Sección H";
+    l.Print(texto);
+    const QRect t = tintaDe(imagenDe(l));
+    EXPECT_NEAR(t.right() - 40, anchoTexto(texto) / 15.0 * puntos / 8, 3) << puntos;
+  }
 }
 
 TEST(Pintor, TextosDiminutosYEnormesGuardanSuTamano) {
