@@ -1,6 +1,7 @@
 #include "rapida/calculo_rapida.h"
 
 #include "comun/numeros.h"
+#include "estructura/pasos.h"
 #include "hidraulica/resalto.h"
 #include "hidraulica/solvers.h"
 #include "hidraulica/transicion.h"
@@ -9,17 +10,6 @@
 namespace calvento {
 
 namespace {
-
-void canalArriba(DesignState& e, const Form2& p, PantallaRapida& pantalla) {
-  e.ynArriba = YNORMAL(e.Q, e.bArriba, e.zArriba, e.nArriba, e.sArriba);
-  e.hArriba = e.ynArriba + Val(p.Text5.Text);
-  e.hArriba = enRejilla(e.hArriba);
-  const Seccion canal{e.bArriba, e.zArriba};
-  e.vArriba = e.Q / canal.area(e.ynArriba);
-  e.frArriba = e.vArriba / Sqr(gravedad * canal.area(e.ynArriba) / canal.espejo(e.ynArriba));
-  pantalla.SECONTROL();
-  if (e.sobreelevacion < 0) e.sobreelevacion = 0;
-}
 
 /// The regimes of the canal and of the chute; false stops the calculation. `y0` becomes the depth the chute starts
 /// with.
@@ -69,10 +59,8 @@ void finDeRapida(DesignState& e, Single y0) {
 }
 
 void resalto(DesignState& e, Dialogos& dialogos) {
-  e.ynAbajo = YNORMAL(e.Q, e.bAbajo, e.zAbajo, e.nAbajo, e.sAbajo);
-  e.vAbajo = e.Q / Seccion{e.bAbajo, e.zAbajo}.area(e.ynAbajo);
-  const Single difEnergia =
-      (e.vAbajo * e.vAbajo / dosG + e.cotaAbajo + e.ynAbajo) - (e.vFin * e.vFin / dosG + e.cotaFin + e.yFin);
+  calcularCanalAbajo(e);
+  const Single difEnergia = nivelEnergia(e.vAbajo, e.cotaAbajo, e.ynAbajo) - nivelEnergia(e.vFin, e.cotaFin, e.yFin);
   e.y1 = Y1RESALTO(e.Q, e.yFin, e.vFin, e.cotaFin, e.cotaAbajo, e.bPoza, dialogos);
   e.y2 = conjugadoRectangular(e.y1, e.Q / e.bPoza);
   TIRANTESCONJUGADOS(e, {e.bPoza, e.zPoza, difEnergia}, 0.001);
@@ -112,12 +100,9 @@ void trayectoria(DesignState& e, PantallaRapida& pantalla) {
 /// The chute's wall takes the freeboard named for the downstream canal and the other way round: they are crossed here
 /// on purpose.
 void alturas(DesignState& e, const Form2& p) {
-  e.hAbajo = e.ynAbajo + Val(p.Text6.Text);
-  e.hAbajo = enRejilla(e.hAbajo);
-  e.hRapida = e.yFin + Val(p.Text8.Text);
-  e.hRapida = enRejilla(e.hRapida);
-  e.hPoza = e.y2 + Val(p.Text7.Text);
-  e.hPoza = enRejilla(e.hPoza);
+  ponerAltura(e.hAbajo, e.ynAbajo, p.Text6, true);
+  ponerAltura(e.hRapida, e.yFin, p.Text8, true);
+  ponerAltura(e.hPoza, e.y2, p.Text7, true);
   if (e.cotaAbajo + e.hAbajo > e.cotaPoza + e.hPoza) e.hPoza = e.cotaAbajo + e.hAbajo - e.cotaPoza;
   e.hPoza = enRejilla(e.hPoza);
 }
@@ -132,7 +117,9 @@ void espejos(DesignState& e) {
 }  // namespace
 
 bool calcularRapida(DesignState& e, const Form2& p, PantallaRapida& pantalla) {
-  canalArriba(e, p, pantalla);
+  calcularCanalArriba(e, p.Text5, true);
+  pantalla.SECONTROL();
+  if (e.sobreelevacion < 0) e.sobreelevacion = 0;
   Single y0;
   if (!comprobarRegimen(e, pantalla, y0)) return false;
 
@@ -153,7 +140,7 @@ bool calcularRapida(DesignState& e, const Form2& p, PantallaRapida& pantalla) {
   espejos(e);
 
   const Single kAhogamiento = razonAhogamiento(e);
-  if (!(kAhogamiento < 0)) pantalla.mostrarAhogamiento("k=  " + texto(Round(kAhogamiento * 100, 2)) + "%  ;Y2=h+Yw");
+  if (!(kAhogamiento < 0)) pantalla.mostrarAhogamiento(textoAhogamiento(kAhogamiento));
   pantalla.habilitarResultados();
   LONGPOZA(e, p, pantalla.dialogos());
   return true;

@@ -1,0 +1,132 @@
+#include "estructura/ventana_estructura.h"
+
+#include <algorithm>
+
+#include "comun/numeros.h"
+#include "hidraulica/solvers.h"
+#include "plataforma/campos.h"
+
+namespace calvento {
+
+VentanaEstructura::VentanaEstructura(const FormatoProyecto& formato, DesignState& estado, Ventana& parametros,
+                                     Dialogos& dialogos, Navegador& navegador)
+    : VentanaDatos(formato.ventana, std::string(formato.titulo)),
+      estado_(estado),
+      dialogos_(dialogos),
+      navegador_(navegador),
+      proyecto_(formato, estado, *this, parametros, dialogos) {
+  unirArchivo();
+  Command3.Click = [this] { Command3_Click(); };
+  estado_.esNuevo = true;
+}
+
+void VentanaEstructura::unirArchivo() {
+  mnnuevo.Click = [this] { nuevo(); };
+  mnabrir.Click = [this] { Abrir_Archivo(); };
+  mnguardar.Click = [this] { Guardar_Archivo(); };
+  mnguardarcomo.Click = [this] { Guardarcomo_Archivo(); };
+  mnimprimir.Click = [this] { navegador_.imprimir(*this); };
+  mncopiar.Click = [this] { navegador_.copiar(*this); };
+  mncerrar.Click = [this] { navegador_.descargar(*this); };
+  Toolbar1.ButtonClick = [this](const std::string& clave) {
+    if (clave == "nuevo") nuevo();
+    if (clave == "abrir") Abrir_Archivo();
+    if (clave == "guardar") Guardar_Archivo();
+    if (clave == "Copiar") navegador_.copiar(*this);
+    if (clave == "imprimir") navegador_.imprimir(*this);
+  };
+}
+
+void VentanaEstructura::Command3_Click() {
+  calculado_ = false;
+  try {
+    calculado_ = calcular();
+  } catch (const FalloAritmetico& fallo) {
+    dialogos_.fallo(std::string(fallo.what()) + ": Ingresar datos correctamente, verificar");
+  }
+}
+
+void VentanaEstructura::Abrir_Archivo() {
+  proyecto_.Abrir_Archivo([this] { trasLeer(); });
+}
+
+void VentanaEstructura::abrir(const std::string& ruta) {
+  proyecto_.abrir(ruta, [this] { trasLeer(); });
+}
+
+void VentanaEstructura::leer(const TextBox& campo, Single DesignState::*valor) { estado_.*valor = Val(campo.Text); }
+
+void VentanaEstructura::leerCanalArriba() {
+  using D = DesignState;
+  leer(Text5, &D::Q);
+  leer(Text6, &D::bArriba);
+  leer(Text7, &D::zArriba);
+  leer(Text8, &D::nArriba);
+  leer(Text9, &D::sArriba);
+}
+
+Evento VentanaEstructura::abre(const char* ventana) {
+  return [this, ventana] { navegador_.mostrar(ventana); };
+}
+
+void VentanaEstructura::habilitar(std::initializer_list<Menu*> menus, bool activos) {
+  for (Menu* m : menus) m->Enabled = activos;
+}
+
+void VentanaEstructura::vaciarCampos(std::initializer_list<TextBox*> campos) {
+  for (TextBox* campo : campos) campo->Text = "";
+}
+
+void VentanaEstructura::mostrarAncho(const char* rotulo, Real (*ancho)(Real Q)) {
+  if (vacio(Text5.Text)) {
+    sbStatusBar.Panel1 = "";
+    return;
+  }
+  pasandoFallos([&] {
+    leer(Text5, &DesignState::Q);
+    sbStatusBar.Panel1 = rotulo + texto(Round(ancho(estado_.Q), 3));
+  });
+}
+
+void VentanaEstructura::ponerAncho(TextBox& campo, Real (*ancho)(Real Q)) {
+  if (vacio(Text5.Text)) return;
+  pasandoFallos([&] {
+    leer(Text5, &DesignState::Q);
+    campo.Text = texto(Round(ancho(estado_.Q), 3));
+  });
+}
+
+void VentanaEstructura::pistaTalud(TextBox& campo, const char* consejo, const char* panel) {
+  campo.MouseMove = [this, &campo, consejo, panel] {
+    campo.ToolTipText = consejo;
+    sbStatusBar.Panel1 = panel;
+  };
+}
+
+bool VentanaEstructura::algunoVacio(std::initializer_list<const TextBox*> campos) const {
+  return std::any_of(campos.begin(), campos.end(), [](const TextBox* c) { return vacio(c->Text); });
+}
+
+Real VentanaEstructura::vistaCanalArriba(bool guardarVelocidad) {
+  DesignState& e = estado_;
+  using D = DesignState;
+  pasandoFallos([&] { leer(Text6, &D::bArriba); });
+  pasandoFallos([&] { leer(Text7, &D::zArriba); });
+  pasandoFallos([&] { leer(Text8, &D::nArriba); });
+  pasandoFallos([&] { leer(Text9, &D::sArriba); });
+  pasandoFallos([&] { e.ynArriba = YNORMAL(e.Q, e.bArriba, e.zArriba, e.nArriba, e.sArriba); });
+  const Seccion canal{e.bArriba, e.zArriba};
+  Real A = 0, T = 0, v = 0;
+  pasandoFallos([&] { A = canal.area(e.ynArriba); });
+  if (guardarVelocidad) {
+    pasandoFallos([&] { e.vArriba = e.Q / A; });
+    v = e.vArriba;
+  } else {
+    pasandoFallos([&] { v = e.Q / A; });
+  }
+  pasandoFallos([&] { T = canal.espejo(e.ynArriba); });
+  pasandoFallos([&] { e.frArriba = v / Sqr(gravedad * A / T); });
+  return v;
+}
+
+}  // namespace calvento

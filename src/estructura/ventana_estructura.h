@@ -1,0 +1,109 @@
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <string>
+
+#include "modelo/design_state.h"
+#include "modelo/proyecto.h"
+#include "plataforma/control.h"
+#include "plataforma/dialogos.h"
+#include "plataforma/navegador.h"
+#include "plataforma/ventana_datos.h"
+
+namespace calvento {
+
+/// What the data windows of the three structures have in common: the fields of both canals, the file menu, the toolbar,
+/// the error handler of the calculation and the hints in the status bar.
+class VentanaEstructura : public VentanaDatos {
+ public:
+  VentanaEstructura(const FormatoProyecto& formato, DesignState& estado, Ventana& parametros, Dialogos& dialogos,
+                    Navegador& navegador);
+
+  TextBox Text5{*this, "Text5"};  ///< Q
+  // Upstream canal
+  TextBox Text6{*this, "Text6"};  ///< bArriba
+  TextBox Text7{*this, "Text7"};  ///< zArriba
+  TextBox Text8{*this, "Text8"};  ///< nArriba
+  TextBox Text9{*this, "Text9"};  ///< sArriba
+  // Downstream canal
+  TextBox Text16{*this, "Text16"};  ///< bAbajo
+  TextBox Text18{*this, "Text18"};  ///< zAbajo
+  TextBox Text19{*this, "Text19"};  ///< nAbajo
+  TextBox Text20{*this, "Text20"};  ///< sAbajo
+  // Chainage, elevations and basin
+  TextBox Text25{*this, "Text25"};  ///< progresivaInicio
+  TextBox Text2{*this, "Text2"};    ///< cotaFin
+  TextBox Text4{*this, "Text4"};    ///< cotaAbajo
+  TextBox Text23{*this, "Text23"};  ///< basin width
+
+  Frame Frame1{*this, "Frame1"};    ///< group of the control section
+  Label Label41{*this, "Label41"};  ///< regime note
+  StatusBar sbStatusBar{*this, "sbStatusBar"};
+
+  CommandButton Command6{*this, "Command6"};  ///< suggests the basin width
+  CommandButton Command3{*this, "Command3"};
+  CommandButton Command2{*this, "Command2"};
+
+  Menu mnnuevo{*this, "mnnuevo"};
+  Menu mnabrir{*this, "mnabrir"};
+  Menu mnguardar{*this, "mnguardar"};
+  Menu mnguardarcomo{*this, "mnguardarcomo"};
+  Menu mnimprimir{*this, "mnimprimir"};
+  Menu mncopiar{*this, "mncopiar"};
+  Menu mncerrar{*this, "mncerrar"};
+  Menu mngrafico{*this, "mngrafico"};
+  Menu mntanque{*this, "mntanque"};
+  Menu mnparam{*this, "mnparam"};
+  Toolbar Toolbar1{*this, "Toolbar1", {"nuevo", "abrir", "guardar", "Copiar", "imprimir"}};
+
+  /// Reads the fields and calculates; an arithmetic failure is told and ends it where it stood.
+  void Command3_Click() override;
+  bool calculado() const override { return calculado_; }
+  void abrir(const std::string& ruta) override;
+  void Abrir_Archivo();
+  void Guardar_Archivo() { proyecto_.Guardar_Archivo(); }
+  void Guardarcomo_Archivo() { proyecto_.Guardarcomo_Archivo(); }
+  virtual void nuevo() = 0;
+
+  CommandButton* botonPredeterminado() override { return &Command3; }
+
+ protected:
+  /// Reading and calculation; whether it ran to its last step.
+  virtual bool calcular() = 0;
+  /// What follows when a project file has been read.
+  virtual void trasLeer() = 0;
+
+  void leer(const TextBox& campo, Single DesignState::*valor);
+  /// Reads Q and both canals' fields in the order of the windows: first the upstream canal.
+  void leerCanalArriba();
+  /// Opens a window from a menu.
+  Evento abre(const char* ventana);
+  void habilitar(std::initializer_list<Menu*> menus, bool activos);
+  void vaciarCampos(std::initializer_list<TextBox*> campos);
+
+  /// A suggested width for the typed discharge: in the status bar, emptied without a discharge; or into a field.
+  void mostrarAncho(const char* rotulo, Real (*ancho)(Real Q));
+  void ponerAncho(TextBox& campo, Real (*ancho)(Real Q));
+  /// The hint of a ramp slope in its tooltip and in the status bar.
+  void pistaTalud(TextBox& campo, const char* consejo, const char* panel);
+
+  /// The first half of the live preview: reads Q and the upstream canal and finds normal depth and Froude number,
+  /// passing over what fails. Returns the velocity; the record's vArriba takes it only where told.
+  Real vistaCanalArriba(bool guardarVelocidad);
+  bool algunoVacio(std::initializer_list<const TextBox*> campos) const;
+
+  DesignState& estado_;
+  Dialogos& dialogos_;
+  Navegador& navegador_;
+
+ private:
+  void unirArchivo();
+
+  Proyecto proyecto_;
+  bool calculado_ = false;
+};
+
+inline constexpr const char* notaRapido = "FLUJO SUPER CRITICO, EN CANAL AGUAS ARRIBA";
+
+}  // namespace calvento

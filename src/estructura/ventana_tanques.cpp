@@ -1,0 +1,55 @@
+#include "estructura/ventana_tanques.h"
+
+#include <array>
+
+#include "plataforma/campos.h"
+
+namespace calvento {
+
+VentanaTanques::VentanaTanques(const FormatoProyecto& formato, DesignState& estado, Form2& parametros,
+                               Dialogos& dialogos, Navegador& navegador, const char* rotuloRampa,
+                               bool longitudEnRejilla)
+    : VentanaEstructura(formato, estado, parametros, dialogos, navegador),
+      parametros_(parametros),
+      longitudEnRejilla_(longitudEnRejilla) {
+  prepararTablaTanques(Grid1.tabla);
+  parametros_.Label30.Caption = rotuloRampa;
+  mnparam.Click = abre("Form2");
+  // the tooltip and the status bar differ on purpose, and neither limits the entry
+  pistaTalud(Text21, "1.5 < Z1 < 2", "1.5 <= Z1 <= 2");
+  pistaTalud(Text22, "0 < Z2 < 2", "0 < Z2 < 2");
+  Grid1.Click = [this] {
+    const MenuBloques bloques = pulsarTabla(Grid1.tabla, Grid1.MouseRow, estado_, parametros_, longitudEnRejilla_);
+    if (bloques != MenuBloques::igual) mntabla.Enabled = bloques == MenuBloques::activo;
+    Grid1.cambiado();
+  };
+  Grid1.DblClick = [this] { estado_.tipoTanque = Grid1.MouseRow; };
+  mntabla.Click = [this] {
+    antesDeBloques();
+    static constexpr std::array hojas = {"Form22", "Form5", "Form21", "Form23"};
+    if (tieneBloques(estado_)) navegador_.mostrar(hojas[static_cast<std::size_t>(estado_.tipoTanque.valor()) - 2]);
+  };
+  Command2.Click = [this] {
+    estado_.tipoTanque = 0;
+    navegador_.descargar(*this);
+  };
+}
+
+void VentanaTanques::Command3_Click() {
+  VentanaEstructura::Command3_Click();
+  Grid1.cambiado();
+}
+
+void VentanaTanques::tomarTanqueLeido() {
+  const bool deLaTabla = longitudPoza(estado_, parametros_);
+  pintarTabla(Grid1.tabla, deLaTabla ? static_cast<int>(estado_.tipoTanque.valor()) : 0);
+  Grid1.cambiado();
+  if (!deLaTabla) dialogos_.fallo("El proyecto no indica un tipo de tanque de la tabla (1 a 6)");
+}
+
+void VentanaTanques::vaciarTabla() {
+  limpiarTabla(Grid1.tabla);
+  Grid1.cambiado();
+}
+
+}  // namespace calvento

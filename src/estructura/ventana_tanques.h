@@ -1,0 +1,42 @@
+#pragma once
+
+#include "estructura/ventana_estructura.h"
+#include "plataforma/rejilla.h"
+#include "poza/form2.h"
+#include "poza/tabla_tanques.h"
+
+namespace calvento {
+
+/// What the data windows of the chute and of the inclined drop have beyond the common: the basin with its ramps, the
+/// feasibility table and the parameter window they serve in turn.
+class VentanaTanques : public VentanaEstructura {
+ public:
+  /// `rotuloRampa`: what the parameter window calls the freeboard of this structure. `longitudEnRejilla`: a length that
+  /// comes from a click on the table goes to the 0.05 grid.
+  VentanaTanques(const FormatoProyecto& formato, DesignState& estado, Form2& parametros, Dialogos& dialogos,
+                 Navegador& navegador, const char* rotuloRampa, bool longitudEnRejilla);
+
+  TextBox Text24{*this, "Text24"};         ///< side slope of the basin
+  TextBox Text21{*this, "Text21", "2"};    ///< zRampaEntrada
+  TextBox Text22{*this, "Text22", "1.5"};  ///< zRampaSalida
+  Label Label27{*this, "Label27"};         ///< rise of the control section
+  Grid Grid1{*this, "Grid1"};
+  Menu mnst{*this, "mnst"};
+  Menu mntabla{*this, "mntabla"};
+
+  void Command3_Click() override;
+
+ protected:
+  /// Before a sheet of block dimensions opens.
+  virtual void antesDeBloques() {}
+  /// Marks the row of the stored basin type and sets its length; a type that is none of the table's is told.
+  void tomarTanqueLeido();
+  void vaciarTabla();
+
+  Form2& parametros_;
+
+ private:
+  bool longitudEnRejilla_;
+};
+
+}  // namespace calvento
