@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <limits>
+#include <regex>
 
 namespace calvento {
 
@@ -113,6 +114,21 @@ Real Val(std::string_view t) {
     v = 0;
   }
   return negativo ? -v : v;
+}
+
+std::string conPuntoDecimal(std::string_view texto) {
+  std::string s(texto);
+  if (s.find(',') == std::string::npos) return s;
+  static const std::regex milesConPunto(R"(\s*[-+]?\d{1,3}(\.\d{3})+,\d+\s*)");
+  static const std::regex milesConComa(R"(\s*[-+]?\d{1,3}(,\d{3})+\.\d+\s*)");
+  // the expressions recurse on every digit: a text that no field could show is no number with separators
+  constexpr std::size_t sinSentido = 100;
+  if (s.size() < sinSentido) {
+    if (std::regex_match(s, milesConPunto)) std::erase(s, '.');
+    if (std::regex_match(s, milesConComa)) std::erase(s, ',');
+  }
+  std::replace(s.begin(), s.end(), ',', '.');
+  return s;
 }
 
 Real Round(Real x, int decimales) {

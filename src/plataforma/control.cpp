@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "comun/numeros.h"
 #include "plataforma/ventana.h"
 
 namespace calvento {
@@ -18,6 +19,8 @@ void TextBox::seleccionarTodo() {
   SelLength = static_cast<int>(Text.valor().size());
   disparar(alCambiar);
 }
+
+void TextBox::escribir(const std::string& texto) { Text = numerico ? conPuntoDecimal(texto) : texto; }
 
 void TextBox::trasCambiar(const void* propiedad) {
   if (propiedad == &Text) disparar(Change);

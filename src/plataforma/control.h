@@ -72,6 +72,8 @@ class TextBox : public Control {
   int SelLength = 0;
   /// Selects the whole text; every field does so when it gets the focus.
   void seleccionarTodo();
+  /// Replaces the text as typing or pasting does.
+  void escribir(const std::string& texto);
 
  protected:
   void trasCambiar(const void* propiedad) override;
@@ -144,6 +146,8 @@ class Menu : public Control {
  public:
   using Control::Control;
   Propiedad<bool> Checked{*this, false};
+  /// An entry with a check mark, which its click sets or clears.
+  bool conMarca = false;
   Evento Click;
 };
 

@@ -21,6 +21,27 @@ TEST(Val, ReadsTheNumberAtTheStart) {
   EXPECT_THROW(Val("-" + std::string(400, '9')), FalloAritmetico);
 }
 
+TEST(PuntoDecimal, TakesTheCommaOfASpanishKeyboard) {
+  const struct {
+    const char* tecleado;
+    const char* leido;
+  } casos[] = {
+      {"2,5", "2.5"},
+      {"2.5", "2.5"},
+      {"", ""},
+      {",5", ".5"},
+      {"1.234,56", "1234.56"},
+      {"1,234.56", "1234.56"},
+      {"-1.234.567,8", "-1234567.8"},
+      {"1,234", "1.234"},
+      {"12,34.5", "12.34.5"},
+      {"abc", "abc"},
+  };
+  for (const auto& c : casos) EXPECT_EQ(conPuntoDecimal(c.tecleado), c.leido) << c.tecleado;
+  const std::string larguisimo(1 << 20, '1');
+  EXPECT_EQ(conPuntoDecimal(larguisimo + ",5"), larguisimo + ".5");
+}
+
 TEST(Round, TiesGoToTheEvenDigit) {
   EXPECT_EQ(Round(Real(2.5), 0).valor(), 2);
   EXPECT_EQ(Round(Real(3.5), 0).valor(), 4);
