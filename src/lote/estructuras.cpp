@@ -1,0 +1,76 @@
+#include "lote/estructuras.h"
+
+namespace calvento::lote {
+
+namespace {
+
+Estructura rapida() {
+  using D = DesignState;
+  return {
+      "rapida",
+      &formatoRapida,
+      {"Label27", "Label35", "Label41"},
+      {"Label41", "Label35"},
+      {"mngrafico", "mntabla", "mntanque", "mnst", "mntperfil", "mntrayectoria", "mnformondas"},
+      {
+          {"Caudal", {{"Q", "Text5", "m³/s"}}},
+          {"Canal aguas arriba", {{"b", "Text6", "m"}, {"Z", "Text7", ""}, {"n", "Text8", ""}, {"S", "Text9", "m/m"}}},
+          {"Canal de la rápida",
+           {{"b", "Text10", "m"}, {"Z", "Text11", ""}, {"n", "Text12", ""}, {"tramos", "Text17", ""}}},
+          {"Pendientes de los tramos", {{"S1", "Text13", "m/m"}, {"S2", "Text15", "m/m"}, {"S3", "Text14", "m/m"}}},
+          {"Canal aguas abajo",
+           {{"b", "Text16", "m"}, {"Z", "Text18", ""}, {"n", "Text19", ""}, {"S", "Text20", "m/m"}}},
+          {"Poza", {{"B", "Text23", "m"}, {"Z", "Text24", ""}, {"ahogamiento", "Text26", "%"}}},
+          {"Taludes de las rampas", {{"Z1", "Text21", ""}, {"Z2", "Text22", ""}}},
+          {"Progresiva de inicio", {{"", "Text25", "m"}}},
+          {"Elevaciones",
+           {{"inicio", "Text1", "m"},
+            {"2do tramo", "Text3", "m"},
+            {"3er tramo", "Text27", "m"},
+            {"inicio de trayectoria", "Text2", "m"},
+            {"salida", "Text4", "m"}}},
+      },
+      {
+          {"Canal aguas arriba",
+           {{"Yn", &D::ynArriba, "m"}, {"V", &D::vArriba, "m/s"}, {"F", &D::frArriba, ""}, {"H", &D::hArriba, "m", 2}}},
+          {"Sección de control", {{"Y", &D::ycControl, "m"}, {"sobre elevación", &D::sobreelevacion, "m"}}},
+          {"Tramos (longitud)",
+           {{"L1", &D::longTramo1, "m", 2},
+            {"L2", &D::longTramo2, "m", 2, true},
+            {"L3", &D::longTramo3, "m", 2, true}}},
+          {"Fin de la rápida",
+           {{"Y", &D::yFin, "m"}, {"V", &D::vFin, "m/s"}, {"F", &D::frFin, ""}, {"H", &D::hRapida, "m", 2}}},
+          {"Trayectoria", {{"L", &D::xTrayectoria, "m"}, {"elevación final", &D::cotaTrayectoria, "m"}}},
+          {"Rampa de ingreso", {{"Z1", &D::zRampaEntrada, "", 2}}},
+          {"Inicio del resalto", {{"Y1", &D::y1, "m"}, {"V1", &D::v1, "m/s"}, {"F1", &D::fr1, ""}}},
+          {"Fin del resalto", {{"Y2", &D::y2, "m"}, {"V2", &D::v2, "m/s"}}},
+          {"Poza",
+           {{"elevación", &D::cotaPoza, "m"},
+            {"profundidad", &D::profPoza, "m"},
+            {"longitud", &D::longPoza, "m", 2},
+            {"H", &D::hPoza, "m", 2}}},
+          {"Canal aguas abajo", {{"Yn", &D::ynAbajo, "m"}, {"V", &D::vAbajo, "m/s"}, {"H", &D::hAbajo, "m", 2}}},
+          {"Transiciones", {{"entrada", &D::longTransEntrada, "m", 2}, {"salida", &D::longTransSalida, "m", 2}}},
+      }};
+}
+
+}  // namespace
+
+std::span<const Estructura> estructuras() {
+  static const std::vector<Estructura> todas = {rapida()};
+  return todas;
+}
+
+const Estructura* estructuraDe(std::string_view archivo) {
+  for (const Estructura& e : estructuras())
+    if (tieneExtension(archivo, e.formato->extension)) return &e;
+  return nullptr;
+}
+
+std::string extensiones() {
+  std::string todas;
+  for (const Estructura& e : estructuras()) todas += (todas.empty() ? "." : ", .") + std::string(e.formato->extension);
+  return todas;
+}
+
+}  // namespace calvento::lote

@@ -1,0 +1,199 @@
+#include "lote/json.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <nlohmann/json.hpp>
+
+#include "plataforma/rejilla.h"
+
+namespace calvento::lote {
+
+void EscritorJson::separar() {
+  if (!primero_) salida_ += ',';
+  primero_ = false;
+}
+void EscritorJson::abrir(char c) {
+  separar();
+  salida_ += c;
+  primero_ = true;
+}
+void EscritorJson::cerrar(char c) {
+  salida_ += c;
+  primero_ = false;
+}
+void EscritorJson::clave(std::string_view nombre) {
+  texto(nombre);
+  salida_ += ':';
+  primero_ = true;
+}
+void EscritorJson::texto(std::string_view valor) {
+  separar();
+  // file names may be no UTF-8: what is not is replaced, since the line must stay readable
+  salida_ += nlohmann::json(valor).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+void EscritorJson::logico(bool valor) {
+  separar();
+  salida_ += valor ? "true" : "false";
+}
+void EscritorJson::nulo() {
+  separar();
+  salida_ += "null";
+}
+template <class Numero>
+void EscritorJson::escribirNumero(Numero valor) {
+  std::array<char, 32> bufer{};
+  const auto r = std::to_chars(bufer.data(), bufer.data() + bufer.size(), valor);
+  separar();
+  salida_.append(bufer.data(), r.ptr);
+}
+void EscritorJson::numero(int valor) { escribirNumero(valor); }
+void EscritorJson::numero(float valor) { std::isfinite(valor) ? escribirNumero(valor) : nulo(); }
+void EscritorJson::numero(double valor) { std::isfinite(valor) ? escribirNumero(valor) : nulo(); }
+
+namespace {
+
+void escribirMensajes(EscritorJson& j, const std::vector<Mensaje>& mensajes) {
+  static constexpr std::array<std::string_view, 3> tipos = {"aviso", "pregunta", "fallo"};
+  j.clave("mensajes");
+  j.abrirLista();
+  for (const Mensaje& m : mensajes) {
+    j.abrirObjeto();
+    j.clave("tipo");
+    j.texto(tipos.at(static_cast<std::size_t>(m.tipo)));
+    j.clave("texto");
+    j.texto(m.texto);
+    if (m.tipo == Mensaje::Tipo::pregunta) {
+      j.clave("respuesta");
+      j.texto(m.respuesta ? "si" : "no");
+    }
+    j.cerrarObjeto();
+  }
+  j.cerrarLista();
+}
+
+void escribirEstado(EscritorJson& j, const DesignState& estado) {
+  j.clave("estado");
+  j.abrirObjeto();
+  for (const CampoSingle& c : camposSingle()) {
+    j.clave(c.nombre);
+    j.numero((estado.*c.campo).valor());
+  }
+  j.clave("anguloCaida");
+  j.numero(estado.anguloCaida);
+  j.clave("numTramos");
+  j.numero(static_cast<int>(estado.numTramos));
+  j.clave("tipoTubo");
+  j.texto(estado.tipoTubo);
+  j.clave("esNuevo");
+  j.logico(estado.esNuevo);
+  j.clave("rutaArchivo");
+  j.texto(estado.rutaArchivo);
+  j.cerrarObjeto();
+}
+
+void escribirPerfiles(EscritorJson& j, const DesignState& estado) {
+  j.clave("perfil");
+  j.abrirLista();
+  for (const FilaPerfil& f : estado.perfil) {
+    j.abrirLista();
+    for (const Single s : {f.x, f.tirante, f.cota, f.velocidad, f.energia}) j.numero(s.valor());
+    j.cerrarLista();
+  }
+  j.cerrarLista();
+  j.clave("perfilCaida");
+  j.abrirLista();
+  for (const FilaPerfilCaida& f : estado.perfilCaida) {
+    j.abrirLista();
+    j.numero(f.x);
+    j.numero(f.tirante);
+    j.cerrarLista();
+  }
+  j.cerrarLista();
+}
+
+void escribirTabla(EscritorJson& j, const Rejilla& tabla) {
+  j.abrirLista();
+  for (int f = 0; f < tabla.filas(); ++f) {
+    j.abrirLista();
+    for (int c = 0; c < tabla.columnas(); ++c) j.texto(tabla.texto(f, c));
+    j.cerrarLista();
+  }
+  j.cerrarLista();
+}
+
+void escribirVentana(EscritorJson& j, const Ventana& ventana, const Estructura& estructura) {
+  j.clave("ventana");
+  j.abrirObjeto();
+  j.clave("titulo");
+  j.texto(ventana.Caption.valor());
+  j.clave("campos");
+  j.abrirObjeto();
+  for (const Control* c : ventana.controles())
+    if (const auto* campo = dynamic_cast<const TextBox*>(c)) {
+      j.clave(campo->nombre());
+      j.texto(campo->Text.valor());
+    }
+  j.cerrarObjeto();
+  j.clave("etiquetas");
+  j.abrirObjeto();
+  for (const std::string_view nombre : estructura.etiquetas)
+    if (const auto* etiqueta = ventana.buscar<Label>(nombre)) {
+      j.clave(nombre);
+      j.texto(etiqueta->Caption.valor());
+    }
+  j.cerrarObjeto();
+  if (const auto* barra = ventana.buscar<StatusBar>("sbStatusBar")) {
+    j.clave("panel1");
+    j.texto(barra->Panel1.valor());
+  }
+  j.clave("menus");
+  j.abrirObjeto();
+  for (const std::string_view nombre : estructura.menus)
+    if (const auto* menu = ventana.buscar<Menu>(nombre)) {
+      j.clave(nombre);
+      j.logico(menu->Enabled);
+    }
+  j.cerrarObjeto();
+  if (const auto* rejilla = ventana.buscar<Grid>("Grid1")) {
+    j.clave("Grid1");
+    escribirTabla(j, rejilla->tabla);
+  }
+  j.cerrarObjeto();
+}
+
+void escribirCabecera(EscritorJson& j, const std::string& archivo, const Estructura* estructura, bool calculado) {
+  j.clave("archivo");
+  j.texto(archivo);
+  j.clave("estructura");
+  estructura != nullptr ? j.texto(estructura->clave) : j.nulo();
+  j.clave("calculado");
+  j.logico(calculado);
+}
+
+}  // namespace
+
+std::string comoJson(const Sesion& s) {
+  EscritorJson j;
+  j.abrirObjeto();
+  escribirCabecera(j, s.archivo(), s.estructura(), s.calculado());
+  escribirMensajes(j, s.mensajes());
+  if (s.ventana() != nullptr) {
+    escribirEstado(j, s.estado());
+    escribirPerfiles(j, s.estado());
+    escribirVentana(j, *s.ventana(), *s.estructura());
+  }
+  j.cerrarObjeto();
+  return j.salida();
+}
+
+std::string comoJson(const std::string& archivo, const std::string& fallo) {
+  EscritorJson j;
+  j.abrirObjeto();
+  escribirCabecera(j, archivo, estructuraDe(archivo), false);
+  escribirMensajes(j, {{Mensaje::Tipo::fallo, fallo}});
+  j.cerrarObjeto();
+  return j.salida();
+}
+
+}  // namespace calvento::lote

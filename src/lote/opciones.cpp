@@ -1,0 +1,114 @@
+#include "lote/opciones.h"
+
+#include <CLI/CLI.hpp>
+#include <charconv>
+
+#include "lote/estructuras.h"
+
+namespace calvento::lote {
+
+namespace {
+
+constexpr const char* descripcion =
+    "Calcula proyectos de rápidas y caídas sin abrir ventanas y muestra lo que las ventanas mostrarían.\n"
+    "Sin --json escribe un resumen de cada proyecto: datos, resultados, tipos de tanque y mensajes.";
+
+constexpr const char* pie =
+    "\nEstado de salida: 0, todos los proyectos se calcularon hasta el final; 1, alguno no; 2, opción errónea o\n"
+    "archivo que no se puede leer. Un proyecto que falla no detiene a los demás.\n"
+    "\nEjemplos:\n"
+    "  calvento-lote canal.cvr\n"
+    "  calvento-lote --json *.cvr > resultados.jsonl\n"
+    "  calvento-lote --campo Form2.Text9=15 --campo Form10.Text26=5 canal.cvr\n";
+
+Asignacion comoAsignacion(const std::string& texto) {
+  const std::size_t igual = texto.find('=');
+  const std::size_t punto = texto.find('.');
+  if (igual == std::string::npos || punto == std::string::npos || punto == 0 || punto + 1 >= igual)
+    throw OpcionErronea("--campo " + texto + ": se espera VENTANA.CONTROL=TEXTO");
+  return {texto.substr(0, punto), texto.substr(punto + 1, igual - punto - 1), texto.substr(igual + 1)};
+}
+
+int comoVeces(const std::string& texto) {
+  int n = 0;
+  const char* fin = texto.data() + texto.size();
+  const auto r = std::from_chars(texto.data(), fin, n);
+  if (r.ec != std::errc() || r.ptr != fin || n < 0)
+    throw OpcionErronea("--veces " + texto + ": se espera un número entero, 0 o mayor");
+  return n;
+}
+
+bool comoRespuesta(const std::string& texto) {
+  if (texto == "si" || texto == "sí") return true;
+  if (texto == "no") return false;
+  throw OpcionErronea("--responder " + texto + ": se espera si o no");
+}
+
+/// The parser's own messages are English; the kind of the error is enough to say it in Spanish.
+std::string enEspanol(const CLI::ParseError& error, const CLI::App& programa) {
+  if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
+    std::string sobran;
+    for (const std::string& s : programa.remaining()) sobran += " " + s;
+    return "opción desconocida:" + sobran;
+  }
+  if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return "falta el archivo de proyecto";
+  if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
+    const std::string detalle = error.what();  // begins with the option's name
+    return "a la opción " + detalle.substr(0, detalle.find_first_of(": ")) + " le falta su valor, le sobra o se repite";
+  }
+  return std::string("opción errónea: ") + error.what();
+}
+
+}  // namespace
+
+std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* argv) {
+  Opciones o;
+  std::vector<std::string> campos;
+  std::string veces = "0";
+  std::string responder = "si";
+
+  CLI::App programa(descripcion, "calvento-lote");
+  programa.option_defaults()->group("Opciones");
+  programa.allow_windows_style_options(false);
+  programa.get_formatter()->label("Usage", "Uso");
+  programa.get_formatter()->label("OPTIONS", "OPCIÓN…");
+  programa.get_formatter()->label("Positionals", "Argumentos");
+  programa.get_formatter()->label("REQUIRED", "");
+  programa.get_formatter()->column_width(36);
+  programa.footer(pie);
+  programa.set_help_flag("-h,--ayuda,--help", "Muestra esta ayuda y termina")->group("Opciones");
+  programa.set_version_flag("--version", "calvento-lote 1.0", "Muestra la versión y termina")->group("Opciones");
+  programa.add_option("ARCHIVO", o.archivos, "Proyectos, por su extensión: " + extensiones())
+      ->required()
+      ->type_name("");
+  programa.add_flag("--json", o.json, "Un objeto JSON por proyecto, cada uno en una línea");
+  programa
+      .add_option("--campo", campos,
+                  "Pone TEXTO en un campo; se puede repetir. Los campos de Form2 y\n"
+                  "Form25 se ponen antes de abrir el archivo; los de la ventana de\n"
+                  "datos después, y entonces se calcula otra vez. Casillas, opciones\n"
+                  "y marcas de menú: 1 o 0. Form10.Grid1=3 elige la fila 3")
+      ->type_name("VENTANA.CONTROL=TEXTO")
+      ->expected(1)
+      ->allow_extra_args(false)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  programa.add_option("--veces", veces, "Calcula N veces más al final")->type_name("N");
+  programa.add_option("--responder", responder, "Respuesta a toda pregunta; si, mientras no se diga otra cosa")
+      ->type_name("si|no");
+
+  try {
+    programa.parse(argc, argv);
+  } catch (const CLI::CallForHelp&) {
+    return Informacion{programa.help()};
+  } catch (const CLI::CallForVersion&) {
+    return Informacion{"calvento-lote 1.0\n"};
+  } catch (const CLI::ParseError& error) {
+    throw OpcionErronea(enEspanol(error, programa));
+  }
+  for (const std::string& c : campos) o.campos.push_back(comoAsignacion(c));
+  o.veces = comoVeces(veces);
+  o.responder = comoRespuesta(responder);
+  return o;
+}
+
+}  // namespace calvento::lote

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace calvento::lote {
+
+/// VENTANA.CONTROL=TEXTO
+struct Asignacion {
+  std::string ventana;
+  std::string control;
+  std::string texto;
+};
+
+struct Opciones {
+  std::vector<std::string> archivos;
+  bool json = false;
+  std::vector<Asignacion> campos;
+  int veces = 0;          ///< presses of Command3 beyond the necessary ones
+  bool responder = true;  ///< the answer to every question, true for yes
+};
+
+/// A command line that cannot be carried out; what() is a Spanish text for the user.
+class OpcionErronea : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// A text that was asked for instead of work: the help or the version.
+struct Informacion {
+  std::string texto;
+};
+
+/// Reads the command line. Fails with OpcionErronea.
+std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* argv);
+
+}  // namespace calvento::lote

@@ -1,0 +1,61 @@
+#include "lote/programa.h"
+
+#include <algorithm>
+
+#include "lote/campos.h"
+#include "lote/json.h"
+#include "lote/opciones.h"
+#include "lote/resumen.h"
+#include "lote/sesion.h"
+
+namespace calvento::lote {
+
+namespace {
+
+enum Estado { calculados = 0, algunoNo = 1, errores = 2 };
+
+Estado tratar(const Opciones& opciones, const std::string& archivo, std::ostream& salida, std::ostream& err) {
+  try {
+    const Sesion sesion(opciones, archivo);
+    if (opciones.json)
+      salida << comoJson(sesion) << '\n';
+    else
+      salida << comoResumen(sesion);
+    if (sesion.calculado()) return calculados;
+    if (sesion.mensajes().empty()) err << archivo << ": no se calculó hasta el final\n";
+    for (const Mensaje& m : sesion.mensajes()) err << archivo << ": " << enUnaLinea(m) << '\n';
+    return sesion.accesible() ? algunoNo : errores;
+  } catch (const std::exception& fallo) {
+    // whatever it was, the other projects go on
+    if (opciones.json) salida << comoJson(archivo, fallo.what()) << '\n';
+    err << archivo << ": fallo: " << fallo.what() << '\n';
+    return algunoNo;
+  }
+}
+
+}  // namespace
+
+int ejecutar(int argc, const char* const* argv, std::ostream& salida, std::ostream& err) {
+  try {
+    const auto peticion = leerOpciones(argc, argv);
+    if (const auto* informacion = std::get_if<Informacion>(&peticion)) {
+      salida << informacion->texto;
+      return calculados;
+    }
+    const auto& opciones = std::get<Opciones>(peticion);
+    comprobar(opciones);
+    Estado estado = calculados;
+    for (const std::string& archivo : opciones.archivos)
+      estado = std::max(estado, tratar(opciones, archivo, salida, err));
+    if (!salida.flush()) {
+      err << "calvento-lote: no se pudo escribir la salida\n";
+      return errores;
+    }
+    return estado;
+  } catch (const OpcionErronea& fallo) {
+    err << "calvento-lote: " << fallo.what() << "\nPara ver la ayuda: calvento-lote --ayuda\n";
+    return errores;
+  }
+}
+
+}  // namespace calvento::lote

@@ -1,0 +1,125 @@
+#include "lote/resumen.h"
+
+#include <algorithm>
+#include <array>
+
+#include "comun/numeros.h"
+#include "plataforma/rejilla.h"
+
+namespace calvento::lote {
+
+namespace {
+
+/// Columns that the UTF-8 text takes on a terminal; all our letters are one column wide.
+std::size_t ancho(std::string_view s) {
+  return static_cast<std::size_t>(
+      std::count_if(s.begin(), s.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+}
+
+std::string alineado(std::string_view s, std::size_t columnas) {
+  const std::size_t a = ancho(s);
+  return std::string(s) + std::string(a < columnas ? columnas - a : 0, ' ');
+}
+
+std::string pieza(std::string_view simbolo, std::string_view valor, std::string_view unidad) {
+  std::string s;
+  if (!simbolo.empty()) s = std::string(simbolo) + " = ";
+  s += valor;
+  if (!unidad.empty()) s += " " + std::string(unidad);
+  return s;
+}
+
+std::string linea(std::string_view lugar, const std::vector<std::string>& piezas) {
+  static constexpr std::size_t columnaValores = 28;
+  std::string s = "  " + alineado(lugar, columnaValores - 2);
+  for (std::size_t i = 0; i < piezas.size(); ++i) s += (i == 0 ? "" : "   ") + piezas[i];
+  return s + "\n";
+}
+
+std::string datos(const Sesion& sesion) {
+  std::string s = "\nDATOS\n";
+  for (const Linea<Dato>& l : sesion.estructura()->datos) {
+    std::vector<std::string> piezas;
+    for (const Dato& d : l.piezas) {
+      const auto* campo = sesion.ventana()->buscar<TextBox>(d.control);
+      if (campo != nullptr && !vacio(campo->Text)) piezas.push_back(pieza(d.simbolo, campo->Text, d.unidad));
+    }
+    s += linea(l.lugar, piezas.empty() ? std::vector<std::string>{"-"} : piezas);
+  }
+  return s;
+}
+
+/// What the window remarks in its labels.
+std::string notas(const Sesion& sesion) {
+  std::string s;
+  for (const std::string_view nombre : sesion.estructura()->notas) {
+    const auto* etiqueta = sesion.ventana()->buscar<Label>(nombre);
+    if (etiqueta != nullptr && !vacio(etiqueta->Caption)) s += linea("Observación", {etiqueta->Caption});
+  }
+  return s;
+}
+
+std::string resultados(const Sesion& sesion) {
+  std::string s = "\nRESULTADOS\n";
+  if (!sesion.calculado()) return s + "  El cálculo no llegó a su fin.\n" + notas(sesion);
+  for (const Linea<Valor>& l : sesion.estructura()->resultados) {
+    std::vector<std::string> piezas;
+    for (const Valor& v : l.piezas) {
+      const Single x = sesion.estado().*v.campo;
+      if (v.siHay && x.valor() == 0) continue;
+      piezas.push_back(
+          pieza(v.simbolo, formato(x, "0." + std::string(static_cast<std::size_t>(v.decimales), '0')), v.unidad));
+    }
+    s += linea(l.lugar, piezas);
+  }
+  return s + notas(sesion);
+}
+
+std::string tablaTanques(const Sesion& sesion) {
+  const auto* rejilla = sesion.ventana()->buscar<Grid>("Grid1");
+  if (rejilla == nullptr) return {};
+  const Rejilla& t = rejilla->tabla;
+  std::string s = "\nTIPOS DE TANQUE AMORTIGUADOR (> elegido)\n";
+  for (int f = 0; f < t.filas(); ++f) {
+    std::string fila = f > 0 && Real(sesion.estado().tipoTanque) == f ? "> " : "  ";
+    for (int c = 0; c < t.columnas(); ++c) {
+      std::size_t columnas = 0;
+      for (int i = 0; i < t.filas(); ++i) columnas = std::max(columnas, ancho(t.texto(i, c)));
+      fila += alineado(t.texto(f, c), columnas + 2);
+    }
+    fila.erase(fila.find_last_not_of(' ') + 1);
+    s += fila + "\n";
+  }
+  return s;
+}
+
+std::string mensajes(const Sesion& sesion) {
+  std::string s = "\nMENSAJES\n";
+  if (sesion.mensajes().empty()) s += "  ninguno\n";
+  for (const Mensaje& m : sesion.mensajes()) s += "  " + enUnaLinea(m) + "\n";
+  return s;
+}
+
+}  // namespace
+
+std::string enUnaLinea(const Mensaje& m) {
+  static constexpr std::array<std::string_view, 3> tipos = {"aviso", "pregunta", "fallo"};
+  std::string s = std::string(tipos.at(static_cast<std::size_t>(m.tipo))) + ": " + m.texto;
+  std::replace(s.begin(), s.end(), '\n', ' ');
+  if (m.tipo == Mensaje::Tipo::pregunta) s += m.respuesta ? " [si]" : " [no]";
+  return s;
+}
+
+std::string comoResumen(const Sesion& sesion) {
+  const std::string titulo = sesion.archivo() + (sesion.calculado() ? "" : " (no calculado)");
+  std::string raya;
+  for (std::size_t i = 0; i < ancho(titulo); ++i) raya += "═";
+  std::string s = titulo + "\n" + raya + "\n";
+  if (sesion.ventana() != nullptr) {
+    s += sesion.ventana()->Caption.valor() + "\n";
+    s += datos(sesion) + resultados(sesion) + tablaTanques(sesion);
+  }
+  return s + mensajes(sesion) + "\n";
+}
+
+}  // namespace calvento::lote

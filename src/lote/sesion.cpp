@@ -1,0 +1,65 @@
+#include "lote/sesion.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <utility>
+
+#include "lote/campos.h"
+
+namespace calvento::lote {
+
+namespace {
+
+/// Only plain files: a folder opens like one on some systems, and opening a pipe would wait for its writer.
+bool sePuedeLeer(const std::filesystem::path& archivo) {
+  std::error_code error;
+  return std::filesystem::is_regular_file(archivo, error) && std::ifstream(archivo, std::ios::binary).is_open();
+}
+
+}  // namespace
+
+void SinPantalla::atender() {
+  for (const auto& accion : std::exchange(pendientes_, {})) accion();
+}
+
+Sesion::Sesion(const Opciones& opciones, std::string archivo)
+    : archivo_(std::move(archivo)),
+      estructura_(estructuraDe(archivo_)),
+      accesible_(estructura_ != nullptr && sePuedeLeer(archivo_)),
+      dialogos_(opciones.responder),
+      aplicacion_(dialogos_, pantalla_) {
+  ejecutar(opciones);
+  pantalla_.atender();
+  mensajes_ = dialogos_.mensajes;
+  estado_ = aplicacion_.estado;
+}
+
+void Sesion::ejecutar(const Opciones& opciones) {
+  if (estructura_ == nullptr) {
+    dialogos_.fallo("La extensión del archivo no es de un proyecto: " + extensiones());
+    return;
+  }
+  // the parameter windows are reached through the data window, so that one comes first
+  ventana_ = aplicacion_.cargar<VentanaDatos>(estructura_->formato->ventana);
+  if (ventana_ == nullptr) return;
+  ponerCampos(opciones, true);
+  aplicacion_.abrirProyecto(archivo_);
+  // a project that was not read to its end is left alone: pressing on would calculate with the fields it has filled
+  if (aplicacion_.estado.esNuevo) return;
+  const bool cambiado = std::any_of(opciones.campos.begin(), opciones.campos.end(),
+                                    [this](const Asignacion& a) { return a.ventana == ventana_->nombre(); });
+  ponerCampos(opciones, false);
+  for (int i = cambiado ? -1 : 0; i < opciones.veces; ++i) ventana_->Command3_Click();
+  calculado_ = ventana_->calculado();
+}
+
+void Sesion::ponerCampos(const Opciones& opciones, bool deParametros) {
+  for (const Asignacion& a : opciones.campos) {
+    if (esDeParametros(a.ventana) != deParametros) continue;
+    if (!deParametros && a.ventana != ventana_->nombre()) continue;
+    poner(*aplicacion_.cargar(a.ventana), a);
+  }
+}
+
+}  // namespace calvento::lote

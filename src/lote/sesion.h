@@ -1,0 +1,94 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "aplicacion/aplicacion.h"
+#include "lote/estructuras.h"
+#include "lote/opciones.h"
+#include "plataforma/ventana_datos.h"
+
+namespace calvento::lote {
+
+struct Mensaje {
+  enum class Tipo { aviso, pregunta, fallo };
+  Tipo tipo;
+  std::string texto;
+  bool respuesta = false;  ///< of a question: yes
+};
+
+/// Boxes that nobody sees: they are written down, and every question gets the same answer.
+class DialogosGrabados : public Dialogos {
+ public:
+  explicit DialogosGrabados(bool respuesta) : respuesta_(respuesta) {}
+  void aviso(const std::string& texto) override { mensajes.push_back({Mensaje::Tipo::aviso, texto}); }
+  void fallo(const std::string& texto) override { mensajes.push_back({Mensaje::Tipo::fallo, texto}); }
+  bool pregunta(const std::string& texto) override {
+    mensajes.push_back({Mensaje::Tipo::pregunta, texto, respuesta_});
+    return respuesta_;
+  }
+  std::optional<std::string> abrirArchivo(const OpcionesArchivo&) override { return std::nullopt; }
+  std::optional<std::string> guardarArchivo(const OpcionesArchivo&) override { return std::nullopt; }
+
+  std::vector<Mensaje> mensajes;
+
+ private:
+  bool respuesta_;
+};
+
+/// A window system without a screen.
+class SinPantalla : public SistemaVentanas {
+ public:
+  void presentar(Ventana&) override {}
+  void ocultar(Ventana&) override {}
+  void cerrar(Ventana&) override {}
+  void imprimir(Ventana&) override {}
+  void copiar(Ventana&) override {}
+  void terminar() override {}
+  void despues(std::function<void()> accion) override { pendientes_.push_back(std::move(accion)); }
+  /// Runs what waits for the end of the running event.
+  void atender();
+
+ private:
+  std::vector<std::function<void()>> pendientes_;
+};
+
+/// One project, opened and calculated in a program of its own, as if that had just been started: what a project gives
+/// does not depend on the ones before it. The windows live as long as the session.
+class Sesion {
+ public:
+  Sesion(const Opciones& opciones, std::string archivo);
+
+  const std::string& archivo() const { return archivo_; }
+  /// nullptr when the file's extension is of no structure.
+  const Estructura* estructura() const { return estructura_; }
+  /// The data window; nullptr without a structure.
+  VentanaDatos* ventana() const { return ventana_; }
+  /// Whether the file could be opened for reading at all; its content may still be no project.
+  bool accesible() const { return accesible_; }
+  /// Whether the last press of Command3 ran through to its last step.
+  bool calculado() const { return calculado_; }
+  /// The boxes of all presses, and the record as the last one left it: result windows opened later may write into the
+  /// live one.
+  const std::vector<Mensaje>& mensajes() const { return mensajes_; }
+  const DesignState& estado() const { return estado_; }
+
+ private:
+  void ejecutar(const Opciones& opciones);
+  void ponerCampos(const Opciones& opciones, bool deParametros);
+
+  std::string archivo_;
+  const Estructura* estructura_;
+  bool accesible_ = false;
+  bool calculado_ = false;
+  std::vector<Mensaje> mensajes_;
+  DesignState estado_;
+  VentanaDatos* ventana_ = nullptr;
+
+  DialogosGrabados dialogos_;
+  SinPantalla pantalla_;
+  Aplicacion aplicacion_;
+};
+
+}  // namespace calvento::lote
