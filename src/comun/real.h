@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cfloat>
 #include <cmath>
 #include <concepts>
@@ -32,8 +33,9 @@ class Real {
 
 namespace detalle {
 
-/// True for every number that is neither infinite nor a NaN, in one comparison.
-inline bool utilizable(double v) { return std::fabs(v) <= DBL_MAX; }
+/// True for every number that is neither infinite nor a NaN: those have all bits of the exponent set. On the bits it is
+/// cheaper than a comparison of numbers, which would compete with the arithmetic itself.
+constexpr bool utilizable(double v) { return (std::bit_cast<std::uint64_t>(v) << 1) < (std::uint64_t{0x7FF} << 53); }
 
 inline Real comprobado(double v, Motivo motivo = Motivo::desbordamiento) {
   if (!utilizable(v)) [[unlikely]]

@@ -1,4 +1,5 @@
 #include <cfloat>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -104,6 +105,23 @@ TEST(Real, FailsInTheStatementThatHasNoResult) {
   EXPECT_EQ(motivo([] { return Real(Single(Real(1e39))); }), Motivo::desbordamiento);
   EXPECT_EQ(motivo([] { return Real(enteroCorto(40000)); }), Motivo::desbordamiento);
   EXPECT_EQ(potencia(-2, 3).valor(), -8);
+}
+
+TEST(Real, TakesEveryFiniteNumberAndNoOther) {
+  using Limites = std::numeric_limits<double>;
+  for (const double v :
+       {0.0, -0.0, 1.0, -1.0, DBL_MAX, -DBL_MAX, DBL_MIN, Limites::denorm_min(), -Limites::denorm_min()})
+    EXPECT_EQ((Real(v) * 1).valor(), v);
+  for (const double v : {Limites::infinity(), -Limites::infinity(), Limites::quiet_NaN(), -Limites::quiet_NaN()})
+    EXPECT_THROW(Real(v) * 1, FalloAritmetico) << v;
+  for (const double v : {std::nextafter(double{FLT_MAX}, 0.0), double{FLT_MAX}, -double{FLT_MAX}})
+    EXPECT_NO_THROW(Single(Real(v))) << v;
+  EXPECT_THROW(Single(Real(double{FLT_MAX} * 1.0000001)), FalloAritmetico);
+  EXPECT_THROW(enteroCorto(-32769), FalloAritmetico);
+  EXPECT_EQ(enteroCorto(Real(-32768.4)), -32768);
+  EXPECT_THROW(potencia(1e200, 2), FalloAritmetico);
+  EXPECT_THROW(Exp(1000), FalloAritmetico);
+  EXPECT_EQ(Fix(Real(-2.9)).valor(), -2);
 }
 
 TEST(Single, EveryStoreRoundsToFourBytes) {
