@@ -1,0 +1,91 @@
+#include "qt/dialogos_qt.h"
+
+#include <filesystem>
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "qt/cadena.h"
+
+namespace calvento {
+
+namespace {
+
+QWidget* duenoDeCajas() {
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  return QApplication::activeWindow();
+}
+
+void decir(QMessageBox::Icon icono, const std::string& texto) {
+  QMessageBox caja(icono, QStringLiteral("Calvento"), aQt(texto), QMessageBox::NoButton, duenoDeCajas());
+  caja.setTextFormat(Qt::PlainText);
+  caja.setDefaultButton(caja.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole));
+  caja.exec();
+}
+
+std::optional<std::string> pedirArchivo(QFileDialog& dialogo, const OpcionesArchivo& opciones) {
+  dialogo.setWindowTitle(aQt(opciones.titulo));
+  dialogo.setOption(QFileDialog::HideNameFilterDetails);
+  dialogo.setNameFilter(filtroQt(opciones.filtro));
+  dialogo.setDefaultSuffix(aQt(opciones.extension));
+  dialogo.setLabelText(QFileDialog::LookIn, QStringLiteral("Buscar en:"));
+  dialogo.setLabelText(QFileDialog::FileName, QStringLiteral("&Nombre de archivo:"));
+  dialogo.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo:"));
+  dialogo.setLabelText(QFileDialog::Reject, QStringLiteral("Cancelar"));
+  if (!opciones.sugerido.empty()) dialogo.selectFile(aQt(opciones.sugerido));
+  if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return std::nullopt;
+  return deQt(dialogo.selectedFiles().constFirst());
+}
+
+}  // namespace
+
+void DialogosQt::aviso(const std::string& texto) { decir(QMessageBox::Information, texto); }
+void DialogosQt::fallo(const std::string& texto) { decir(QMessageBox::Warning, texto); }
+
+bool DialogosQt::pregunta(const std::string& texto) {
+  QMessageBox caja(QMessageBox::Warning, QStringLiteral("Calvento"), aQt(texto), QMessageBox::NoButton, duenoDeCajas());
+  caja.setTextFormat(Qt::PlainText);
+  QPushButton* si = caja.addButton(QStringLiteral("Sí"), QMessageBox::YesRole);
+  QPushButton* no = caja.addButton(QStringLiteral("No"), QMessageBox::NoRole);
+  caja.setDefaultButton(si);
+  caja.setEscapeButton(no);
+  caja.exec();
+  return caja.clickedButton() == si;
+}
+
+std::optional<std::string> DialogosQt::abrirArchivo(const OpcionesArchivo& opciones) {
+  QFileDialog dialogo(duenoDeCajas());
+  dialogo.setAcceptMode(QFileDialog::AcceptOpen);
+  dialogo.setFileMode(QFileDialog::ExistingFile);
+  dialogo.setLabelText(QFileDialog::Accept, QStringLiteral("Abrir"));
+  return pedirArchivo(dialogo, opciones);
+}
+
+std::optional<std::string> DialogosQt::guardarArchivo(const OpcionesArchivo& opciones) {
+  QFileDialog dialogo(duenoDeCajas());
+  dialogo.setAcceptMode(QFileDialog::AcceptSave);
+  dialogo.setFileMode(QFileDialog::AnyFile);
+  dialogo.setOption(QFileDialog::DontConfirmOverwrite);  // the program asks by itself
+  dialogo.setLabelText(QFileDialog::Accept, QStringLiteral("Guardar"));
+  auto ruta = pedirArchivo(dialogo, opciones);
+  if (ruta) *ruta = conExtension(std::move(*ruta), opciones.extension);
+  return ruta;
+}
+
+QString filtroQt(const std::string& filtro) {
+  const std::size_t barra = filtro.find('|');
+  const QString descripcion = aQt(filtro.substr(0, barra));
+  const QString patron = barra == std::string::npos ? QStringLiteral("*") : aQt(filtro.substr(barra + 1));
+  const QString otro = patron == patron.toLower() ? patron.toUpper() : patron.toLower();
+  return descripcion + QStringLiteral(" (") + patron + (otro == patron ? QString() : u' ' + otro) + u')';
+}
+
+std::string conExtension(std::string ruta, const std::string& extension) {
+  const auto* inicio = reinterpret_cast<const char8_t*>(ruta.data());
+  if (extension.empty() || std::filesystem::path(inicio, inicio + ruta.size()).has_extension()) return ruta;
+  return ruta + "." + extension;
+}
+
+}  // namespace calvento

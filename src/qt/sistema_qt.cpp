@@ -1,0 +1,194 @@
+#include "qt/sistema_qt.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QEvent>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QScreen>
+
+#include "qt/cadena.h"
+#include "qt/impresion.h"
+
+namespace calvento {
+
+namespace {
+
+constexpr QSize tamanoMayor{1600, 1000};  ///< the main window needs no more on a large screen
+
+/// Qt deletes an object "later" only in the event loop it was told in or outside of it, never in one that was opened
+/// since: just when an event has really ended.
+class Diferida : public QObject {
+ public:
+  explicit Diferida(std::function<void()> accion) : accion_(std::move(accion)) {}
+  bool event(QEvent* evento) override {
+    if (evento->type() == QEvent::DeferredDelete) std::exchange(accion_, nullptr)();
+    return QObject::event(evento);
+  }
+
+ private:
+  std::function<void()> accion_;
+};
+
+QPoint centrado(const QRect& lugar, const QSize& tamano) {
+  return lugar.topLeft() +
+         QPoint(std::max(0, (lugar.width() - tamano.width()) / 2), std::max(0, (lugar.height() - tamano.height()) / 2));
+}
+
+}  // namespace
+
+SistemaQt::~SistemaQt() { cerrarTodo(); }
+
+void SistemaQt::cerrarTodo() {
+  for (auto& [nombre, abierta] : abiertas_)
+    if (abierta.enlace) abierta.enlace->soltar();
+  abiertas_.clear();
+  delete principal_;
+}
+
+SistemaQt::Abierta* SistemaQt::buscar(const Ventana& ventana) {
+  const auto it = abiertas_.find(ventana.nombre());
+  return it == abiertas_.end() || it->second.ventana != &ventana || !it->second.vista ? nullptr : &it->second;
+}
+
+QMainWindow* SistemaQt::vista(std::string_view nombre) const {
+  const auto it = abiertas_.find(nombre);
+  return it == abiertas_.end() ? nullptr : it->second.vista.data();
+}
+
+QWidget* SistemaQt::marco(std::string_view nombre) const {
+  const auto it = abiertas_.find(nombre);
+  return it == abiertas_.end() ? nullptr : it->second.marco.data();
+}
+
+SistemaQt::Abierta& SistemaQt::crear(Ventana& ventana) {
+  const VentanaUi* diseno = ventanaUi(ventana.nombre());
+  if (diseno == nullptr) throw std::runtime_error(ventana.nombre() + ": ventana sin diseño");
+  QWidget* dueno = diseno->puesto == Puesto::suelta ? principal_.data() : nullptr;
+  auto vista = std::make_unique<QMainWindow>(dueno);
+  diseno->construir(*vista);
+  auto* enlace = new Enlace(ventana, *vista, [this](const std::string& texto) { dialogos_.fallo(texto); });
+  enlace->setParent(vista.get());
+  QMainWindow& v = *vista.release();
+  QWidget* marco = &v;
+  switch (diseno->puesto) {
+    case Puesto::principal:
+      colocarPrincipal(v);
+      break;
+    case Puesto::hija:
+      marco = colocarHija(v);
+      break;
+    case Puesto::suelta:
+      colocarSuelta(v);
+      break;
+  }
+  marco->installEventFilter(this);
+  return abiertas_[ventana.nombre()] = Abierta{&ventana, &v, marco, enlace};
+}
+
+void SistemaQt::colocarPrincipal(QMainWindow& vista) {
+  principal_ = &vista;
+  area_ = vista.findChild<QMdiArea*>();
+  const QRect pantalla = vista.screen()->availableGeometry();
+  const QSize tamano = QSize(pantalla.width() * 94 / 100, pantalla.height() * 92 / 100).boundedTo(tamanoMayor);
+  vista.resize(tamano);
+  vista.move(centrado(pantalla, tamano));
+}
+
+/// A child keeps the size of its design and stands in the middle of the area; where it is larger the area scrolls.
+QWidget* SistemaQt::colocarHija(QMainWindow& vista) {
+  const QSize diseno = vista.size().expandedTo(vista.minimumSizeHint());
+  if (area_ == nullptr) return &vista;
+  QMdiSubWindow* marco = area_->addSubWindow(&vista);
+  marco->setWindowIcon(vista.windowIcon());
+  marco->resize(diseno + (marco->size() - marco->contentsRect().size()));
+  marco->move(centrado(area_->viewport()->rect(), marco->size()));
+  return marco;
+}
+
+void SistemaQt::colocarSuelta(QMainWindow& vista) {
+  vista.setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+  vista.setFixedSize(vista.size().expandedTo(vista.minimumSizeHint()));
+  vista.move(centrado(vista.screen()->availableGeometry(), vista.size()));
+}
+
+void SistemaQt::presentar(Ventana& ventana) {
+  Abierta* abierta = buscar(ventana);
+  if (abierta == nullptr) abierta = &crear(ventana);
+  QWidget* marco = abierta->marco;
+  abierta->vista->show();
+  marco->isMinimized() ? marco->showNormal() : marco->show();
+  marco->raise();
+  if (auto* hija = qobject_cast<QMdiSubWindow*>(marco))
+    area_->setActiveSubWindow(hija);
+  else
+    marco->activateWindow();
+}
+
+void SistemaQt::ocultar(Ventana& ventana) {
+  if (const Abierta* abierta = buscar(ventana)) abierta->marco->hide();
+}
+
+void SistemaQt::cerrar(Ventana& ventana) {
+  const Abierta* abierta = buscar(ventana);
+  if (abierta == nullptr) return;
+  abierta->enlace->soltar();
+  QWidget* marco = abierta->marco;
+  abiertas_.erase(ventana.nombre());
+  marco->removeEventFilter(this);
+  marco->hide();
+  marco->deleteLater();
+}
+
+void SistemaQt::terminar() { QCoreApplication::exit(0); }
+
+void SistemaQt::despues(std::function<void()> accion) { (new Diferida(std::move(accion)))->deleteLater(); }
+
+void SistemaQt::imprimir(Ventana& ventana) {
+  const Abierta* abierta = buscar(ventana);
+  if (abierta == nullptr) return;
+  despues([this, vista = abierta->vista] {
+    if (!vista) return;
+    const QPrinterInfo destino = QPrinterInfo::defaultPrinter();
+    if (destino.isNull()) {
+      dialogos_.fallo("No hay una impresora predeterminada");
+      return;
+    }
+    QPrinter impresora(destino, QPrinter::HighResolution);
+    if (!imprimirVista(*vista, impresora)) dialogos_.fallo("La impresora no acepta el trabajo");
+  });
+}
+
+void SistemaQt::copiar(Ventana& ventana) {
+  const Abierta* abierta = buscar(ventana);
+  if (abierta == nullptr) return;
+  despues([marco = abierta->marco] {
+    if (marco) QGuiApplication::clipboard()->setPixmap(marco->grab());
+  });
+}
+
+bool SistemaQt::eventFilter(QObject* objeto, QEvent* evento) {
+  if (evento->type() != QEvent::Close) return false;
+  evento->ignore();
+  protegido([this](const std::string& texto) { dialogos_.fallo(texto); }, [&] { alCerrar(objeto); });
+  return true;
+}
+
+void SistemaQt::alCerrar(QObject* marco) {
+  if (navegador_ == nullptr) return;
+  if (marco == principal_) {
+    navegador_->terminar();
+    return;
+  }
+  const auto it =
+      std::find_if(abiertas_.begin(), abiertas_.end(), [&](const auto& par) { return par.second.marco == marco; });
+  if (it != abiertas_.end()) navegador_->descargar(*it->second.ventana);
+}
+
+}  // namespace calvento

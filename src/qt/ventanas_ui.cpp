@@ -1,0 +1,41 @@
+#include "qt/ventanas_ui.h"
+
+#include <algorithm>
+#include <array>
+
+#include <QMainWindow>
+
+#include "ui_Form14.h"
+#include "ui_Form15.h"
+#include "ui_Form2.h"
+#include "ui_frmAbout.h"
+#include "ui_frmMain.h"
+
+namespace calvento {
+
+namespace {
+
+template <class Diseno>
+void construir(QMainWindow& vista) {
+  Diseno().setupUi(&vista);
+}
+
+constexpr std::array ventanas_ui = {
+    VentanaUi{"frmMain", Puesto::principal, construir<Ui::frmMain>},
+    VentanaUi{"frmAbout", Puesto::suelta, construir<Ui::frmAbout>},
+    VentanaUi{"Form2", Puesto::hija, construir<Ui::Form2>},
+    VentanaUi{"Form14", Puesto::hija, construir<Ui::Form14>},
+    VentanaUi{"Form15", Puesto::hija, construir<Ui::Form15>},
+};
+
+}  // namespace
+
+std::span<const VentanaUi> ventanasUi() { return ventanas_ui; }
+
+const VentanaUi* ventanaUi(std::string_view nombre) {
+  const auto* it =
+      std::find_if(ventanas_ui.begin(), ventanas_ui.end(), [&](const VentanaUi& v) { return v.nombre == nombre; });
+  return it == ventanas_ui.end() ? nullptr : it;
+}
+
+}  // namespace calvento

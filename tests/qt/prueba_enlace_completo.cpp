@@ -1,0 +1,75 @@
+// Every window of the program finds its widgets, and every widget that can be worked its control.
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QPushButton>
+
+#include "apoyo/dialogos_guion.h"
+#include "qt/cadena.h"
+#include "qt/programa.h"
+
+namespace calvento {
+namespace {
+
+class VentanaCompleta : public testing::TestWithParam<std::string> {};
+
+TEST_P(VentanaCompleta, SeEnlazaConSuDiseno) {
+  DialogosGuion dialogos;
+  Programa programa(dialogos);
+  Ventana* ventana = programa.aplicacion.cargar(GetParam());
+  ASSERT_NE(ventana, nullptr) << "no class";
+  QMainWindow vista;
+  ventanaUi(GetParam())->construir(vista);
+  try {
+    Enlace enlace(*ventana, vista, [](const std::string& texto) { ADD_FAILURE() << texto; });
+    enlace.soltar();
+  } catch (const FalloEnlace& fallo) {
+    FAIL() << fallo.what();
+  }
+  EXPECT_EQ(deQt(vista.windowTitle()), ventana->Caption.valor());
+  for (const QLineEdit* campo : vista.findChildren<QLineEdit*>())
+    EXPECT_FALSE(campo->accessibleName().isEmpty()) << deQt(campo->objectName()) << " says nothing to a screen reader";
+}
+
+std::vector<std::string> nombres() {
+  std::vector<std::string> todos;
+  for (const VentanaUi& v : ventanasUi()) todos.emplace_back(v.nombre);
+  return todos;
+}
+
+INSTANTIATE_TEST_SUITE_P(Todas, VentanaCompleta, testing::ValuesIn(nombres()),
+                         [](const auto& caso) { return caso.param; });
+
+/// A window whose design lacks two of its controls, has one of another kind, and brings a field too many.
+struct Manca : Ventana {
+  Manca() : Ventana("Manca") {}
+  TextBox Text1{*this, "Text1"};
+  TextBox Text2{*this, "Text2"};
+  CommandButton Command1{*this, "Command1"};
+  Toolbar Toolbar1{*this, "Toolbar1", {"nada"}};
+};
+
+TEST(EnlaceIncompleto, NombraTodoLoQueFalta) {
+  Manca ventana;
+  QMainWindow vista;
+  auto* centro = new QWidget;
+  vista.setCentralWidget(centro);
+  const auto poner = [&](QWidget* w, const char* nombre) { w->setObjectName(QLatin1String(nombre)); };
+  poner(new QLineEdit(centro), "Text1");
+  poner(new QLineEdit(centro), "Command1");
+  poner(new QPushButton(centro), "Command9");
+  try {
+    Enlace enlace(ventana, vista, nullptr);
+    FAIL() << "joined";
+  } catch (const FalloEnlace& fallo) {
+    EXPECT_EQ(fallo.controlesSolos(), (std::vector<std::string>{"Text2", "Command1", "Toolbar1"}));
+    EXPECT_EQ(fallo.widgetsSolos(), (std::vector<std::string>{"Command1", "Command9"}));
+    for (const char* nombre : {"Manca", "Text2", "Command9", "Toolbar1"})
+      EXPECT_NE(std::string(fallo.what()).find(nombre), std::string::npos) << nombre;
+  }
+  ventana.Text1.Text = "1";  // nothing of the failed joint is left behind
+}
+
+}  // namespace
+}  // namespace calvento
