@@ -4,33 +4,37 @@ namespace calvento {
 
 namespace {
 
-constexpr double tolerancia = 0.001;
+/// Newton's iteration on a depth, from 1 m until a step is under 0.001 m; `correccion` gives the step at a depth.
+template <class Correccion>
+Single tirantePorNewton(Correccion correccion) {
+  Single y = 1.0;
+  Single anterior = 0.0;
+  for (Vueltas vueltas; !(Abs(y - anterior) < 0.001);) {
+    vueltas.una();
+    const Real paso = correccion(Real(y));
+    anterior = y;
+    y = y - paso;
+  }
+  return y;
+}
 
 }  // namespace
 
 Single YCRITICO(Real Q, Real b, Real z) {
   const Real K = Q * Q / gravedad;
-  Single y = 1.0;
-  Single anterior = 0.0;
-  for (Vueltas vueltas; !(Abs(y - anterior) < tolerancia);) {
-    vueltas.una();
+  return tirantePorNewton([&](Real y) {
     const Real A = (b + z * y) * y;
     const Real T = b + 2 * z * y;
     const Real F = A * A * A / T - K;
     const Real dF = 3 * A * A - 2 * z * A * A * A / (T * T);
-    anterior = y;
-    y = y - F / dF;
-  }
-  return y;
+    return F / dF;
+  });
 }
 
 Single YNORMAL(Real Q, Real b, Real z, Real n, Real S) {
   const Real W = Sqr(1 + z * z);
   const Real K = cubo(Q * n / Sqr(S));
-  Single y = 1.0;
-  Single anterior = 0.0;
-  for (Vueltas vueltas; !(Abs(y - anterior) < tolerancia);) {
-    vueltas.una();
+  return tirantePorNewton([&](Real y) {
     const Real A = (b + z * y) * y;
     const Real P = b + 2 * y * W;
     const Real T = b + 2 * z * y;
@@ -38,10 +42,8 @@ Single YNORMAL(Real Q, Real b, Real z, Real n, Real S) {
     const Real A5 = A4 * A;
     const Real F = A5 / (P * P) - K;
     const Real dF = (5 * P * T * A4 - 4 * W * A5) / (P * P * P);
-    anterior = y;
-    y = y - F / dF;
-  }
-  return y;
+    return F / dF;
+  });
 }
 
 Real MAYOR(Real a, Real c) { return (Abs(a - c) + a + c) / 2; }
