@@ -87,11 +87,23 @@ struct PrimTexto {
 };
 using Primitiva = std::variant<PrimLinea, PrimPolilinea, PrimPoligono, PrimCaja, PrimCirculo, PrimTexto>;
 
+/// The place of the pen in world coordinates and how it draws, fills and writes.
+struct EstadoPluma {
+  double CurrentX = 0;
+  double CurrentY = 0;
+  Color ForeColor = color::negro;
+  Color FillColor = color::negro;
+  EstiloRelleno FillStyle = EstiloRelleno::vacio;
+  EstiloLinea DrawStyle = EstiloLinea::solida;
+  int DrawWidth = 1;
+  Letra Font;
+};
+
 /// A retained picture in world coordinates. It paints nothing: a figure fills it, a painter replays it at any size.
 /// What cannot be computed (a coordinate that is not a finite number) is passed over as a failed statement is: a line,
 /// box, circle or text without a usable coordinate is left out and the pen stays; each coordinate of a polygon point
 /// that has no value keeps the one of the point before it, so that a polygon never changes its number of points.
-class Lienzo {
+class Lienzo : public EstadoPluma {
  public:
   /// Size of the picture's inner area in pixels at its design resolution (15 twips to the pixel). The height given
   /// here is also the reference height of the texts.
@@ -129,14 +141,9 @@ class Lienzo {
   /// A text with the top-left corner of its first character at CurrentX, CurrentY.
   void Print(std::string texto);
 
-  double CurrentX = 0;
-  double CurrentY = 0;
-  Color ForeColor = color::negro;
-  Color FillColor = color::negro;
-  EstiloRelleno FillStyle = EstiloRelleno::vacio;
-  EstiloLinea DrawStyle = EstiloLinea::solida;
-  int DrawWidth = 1;
-  Letra Font;
+  /// The state of the pen and its place, to be put back later.
+  EstadoPluma estadoPluma() const { return *this; }
+  void fijarEstadoPluma(const EstadoPluma& estado) { static_cast<EstadoPluma&>(*this) = estado; }
 
   const std::vector<Primitiva>& primitivas() const { return primitivas_; }
   /// Grows by one with each change of the picture, so that a painter can tell whether to repaint.

@@ -1,0 +1,154 @@
+#include "dibujo/marco_dibujo.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "comun/numeros.h"
+#include "dibujo/leyenda.h"
+#include "dibujo/reglas.h"
+
+namespace calvento {
+
+namespace {
+
+/// A zoom box that is narrower than this in either direction is no zoom box, m.
+constexpr double menorCaja = 0.01;
+
+}  // namespace
+
+MarcoDibujo::MarcoDibujo(std::string_view nombre, std::vector<std::string> claves, DesignState& estado,
+                         Navegador& navegador)
+    : Ventana(nombre), Toolbar1(*this, "Toolbar1", std::move(claves)), estado_(estado), navegador_(navegador) {
+  Toolbar1.ButtonClick = [this](const std::string& clave) { Toolbar1_ButtonClick(clave); };
+  Command1.Click = [this] { navegador_.descargar(*this); };
+  GRAF.MouseDown = [this](Punto p) { GRAF_MouseDown(p); };
+  GRAF.MouseMoveEn = [this](Punto p) { GRAF_MouseMove(p); };
+  GRAF.MouseUp = [this](Punto p) { GRAF_MouseUp(p); };
+  GRAF.Resize = [this](int ancho, int alto) { GRAF_Resize(ancho, alto); };
+  for (PictureBox* franja : {&Picture1, &Picture2})
+    franja->Resize = [this, franja](int ancho, int alto) {
+      franja->lienzo.redimensionarSinCrecer(ancho, alto);
+      reglas();
+    };
+}
+
+void MarcoDibujo::abrir(Estructura estructura) {
+  estructura_ = std::move(estructura);
+  Caption = estado_.rutaArchivo;
+  ver("vistaTanque");
+}
+
+std::vector<std::string_view> MarcoDibujo::vistas() const {
+  std::vector<std::string_view> nombres;
+  for (const VistaFija& v : estructura_.vistas) nombres.emplace_back(v.nombre);
+  return nombres;
+}
+
+bool MarcoDibujo::ver(std::string_view nombre) {
+  const auto& todas = estructura_.vistas;
+  const auto v = std::find_if(todas.begin(), todas.end(), [&](const VistaFija& f) { return f.nombre == nombre; });
+  if (v == todas.end()) return false;
+  mostrarVista(v->limites, nombre == "vistaTodo" ? Orden::principal : Orden::vistas);
+  return true;
+}
+
+void MarcoDibujo::vistaMas() {
+  mostrarVista([this] { return acercada(GRAF.lienzo); }, Orden::vistas);
+}
+
+void MarcoDibujo::vistaMenos() {
+  mostrarVista([this] { return alejada(GRAF.lienzo); }, Orden::vistas);
+}
+
+void MarcoDibujo::mostrarVista(const std::function<Vista()>& limites, Orden orden) {
+  orden_ = orden;
+  pasandoFallos([&] {
+    const Vista v = limites();
+    fijarVista(estado_, v);
+    Escala(estado_, GRAF.lienzo);
+    pedida_ = v;
+  });
+  redibujar();
+}
+
+void MarcoDibujo::reglas() {
+  pasandoFallos([&] {
+    EJEX(estado_.vistaX1 + estado_.progresivaInicio, estado_.vistaX2 + estado_.progresivaInicio, Picture1.lienzo,
+         reglaProgresivas);
+  });
+  pasandoFallos([&] { EJEY(estado_.vistaY1, estado_.vistaY2, Picture2.lienzo, reglaElevaciones); });
+  Picture1.cambiado();
+  Picture2.cambiado();
+}
+
+void MarcoDibujo::redibujar() {
+  reglas();
+  for (const Rutina& r : orden_ == Orden::principal ? estructura_.ordenPrincipal : estructura_.ordenVistas)
+    pasandoFallos([&] { r.pintar(GRAF.lienzo); });
+  dibujarLeyenda(GRAF.lienzo);
+  GRAF.cambiado();
+}
+
+void MarcoDibujo::GRAF_Resize(int ancho, int alto) {
+  if (ancho <= 0 || alto <= 0) return;
+  GRAF.lienzo.redimensionar(ancho, alto);
+  if (!pedida_) return;
+  mostrarVista([v = *pedida_] { return v; }, orden_);
+}
+
+void MarcoDibujo::GRAF_MouseDown(Punto p) {
+  estado_.dibX = p.x;
+  estado_.dibY = p.y;
+  GRAF.recuadro = {true, p, p};
+  GRAF.cambiado();
+}
+
+void MarcoDibujo::GRAF_MouseMove(Punto p) {
+  estado_.dibX2 = p.x;
+  estado_.dibY2 = p.y;
+  pasandoFallos([&] {
+    Label5.Caption = "(" + formato(estado_.progresivaInicio + p.x, "0.000") + "," + formato(Real(p.y), "0.000") + ")";
+  });
+  if (!GRAF.recuadro.visible) return;
+  GRAF.recuadro.a = {estado_.dibX, estado_.dibY};
+  GRAF.recuadro.b = p;
+  GRAF.cambiado();
+}
+
+void MarcoDibujo::GRAF_MouseUp(Punto p) {
+  if (!GRAF.recuadro.visible) return;  // the second of two buttons: its box is done already
+  GRAF.recuadro.visible = false;
+  estado_.dibX2 = p.x;
+  estado_.dibY2 = p.y;
+  const auto [x1, x2] = std::minmax(estado_.dibX, estado_.dibX2);
+  const auto [y1, y2] = std::minmax(estado_.dibY, estado_.dibY2);
+  if (x2 - x1 < menorCaja || y2 - y1 < menorCaja) {
+    GRAF.cambiado();
+    return;
+  }
+  mostrarVista([v = Vista{x1, x2, y1, y2}] { return v; }, Orden::principal);
+}
+
+void MarcoDibujo::Toolbar1_ButtonClick(const std::string& clave) {
+  static const std::vector<Boton> vistas = {
+      {"todo", "vistaTodo"}, {"tanque", "vistaTanque"}, {"planta", "vistaPlanta"}, {"scontrol", "vistaControl"}};
+  const auto buscar = [&](const std::vector<Boton>& botones) {
+    const auto b = std::find_if(botones.begin(), botones.end(), [&](const Boton& x) { return x.clave == clave; });
+    return b == botones.end() ? nullptr : &*b;
+  };
+  if (clave == "max")
+    vistaMas();
+  else if (clave == "min")
+    vistaMenos();
+  else if (clave == "Imprimir")
+    navegador_.imprimir(*this);
+  else if (clave == "Copiar")
+    navegador_.copiar(*this);
+  else if (const Boton* vista = buscar(vistas))
+    ver(vista->destino);
+  else if (const Boton* ventana = buscar(estructura_.ventanas))
+    navegador_.mostrar(ventana->destino);
+}
+
+}  // namespace calvento
