@@ -82,10 +82,8 @@ void VentanaEstructura::mostrarAncho(const char* rotulo, Real (*ancho)(Real Q)) 
     sbStatusBar.Panel1 = "";
     return;
   }
-  pasandoFallos([&] {
-    leer(Text5, &DesignState::Q);
-    sbStatusBar.Panel1 = rotulo + texto(Round(ancho(estado_.Q), 3));
-  });
+  pasandoFallos([&] { leer(Text5, &DesignState::Q); });
+  pasandoFallos([&] { sbStatusBar.Panel1 = rotulo + texto(Round(ancho(estado_.Q), 3)); });
 }
 
 void VentanaEstructura::ponerAncho(TextBox& campo, Real (*ancho)(Real Q)) {

@@ -41,10 +41,10 @@ void VentanaTanques::Command3_Click() {
 }
 
 void VentanaTanques::tomarTanqueLeido() {
-  const bool deLaTabla = longitudPoza(estado_, parametros_);
-  pintarTabla(Grid1.tabla, deLaTabla ? static_cast<int>(estado_.tipoTanque.valor()) : 0);
+  // the row is painted first: the length of a basin without a Froude number fails
+  pintarTabla(Grid1.tabla, filaElegida(estado_));
   Grid1.cambiado();
-  if (!deLaTabla) dialogos_.fallo("El proyecto no indica un tipo de tanque de la tabla (1 a 6)");
+  if (!longitudPoza(estado_, parametros_)) dialogos_.fallo("El proyecto no indica un tipo de tanque de la tabla (1 a 6)");
 }
 
 void VentanaTanques::vaciarTabla() {

@@ -23,10 +23,10 @@ Real conjugadoRectangular(Real y1, Real q) { return -y1 / 2 + Sqr(y1 * y1 / 4 + 
 
 void TIRANTESCONJUGADOS(DesignState& e, const PozaResalto& poza, double tolerancia) {
   const Real k1 = e.ahogamiento + 1;
-  Single y1Anterior = 0;
-  Single y2Anterior = 0;
+  Single y1Anterior, y2Anterior;
   Lado uno;
-  for (Vueltas vueltas; !(Abs(e.y1 - y1Anterior) < tolerancia && Abs(e.y2 - y2Anterior) < tolerancia);) {
+  Vueltas vueltas;
+  do {
     vueltas.una();
     uno = ladoEn(e.y1, e.Q, poza, e.v1, e.espejoArriba);
     const Lado dos = ladoEn(e.y2, e.Q, poza, e.v2, e.espejoAbajo);
@@ -43,7 +43,7 @@ void TIRANTESCONJUGADOS(DesignState& e, const PozaResalto& poza, double toleranc
     y2Anterior = e.y2;
     e.y1 = e.y1 - (g2 * f / (f1 * g2 - f2 * g1) + f2 * g / (f2 * g1 - f1 * g2));
     e.y2 = e.y2 - (g1 * f / (f2 * g1 - f1 * g2) + f1 * g / (f1 * g2 - f2 * g1));
-  }
+  } while (!(Abs(e.y1 - y1Anterior) < tolerancia && Abs(e.y2 - y2Anterior) < tolerancia));
 
   e.fr1 = e.v1 / Sqr(gravedad * uno.A / uno.T);
   e.cotaPoza = (e.vAbajo * e.vAbajo / dosG + e.ynAbajo + e.cotaAbajo) - (e.v2 * e.v2 / dosG + e.y2) * k1;

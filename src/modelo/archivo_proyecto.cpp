@@ -1,11 +1,13 @@
 #include "modelo/archivo_proyecto.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <fstream>
 #include <memory>
 #include <system_error>
+#include <utility>
 
 #include "modelo/codificacion.h"
 
@@ -15,11 +17,29 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Far beyond any field; a longer line is no project.
-constexpr std::size_t lineaMaxima = 4096;
+/// As many bytes as the longest text that a field takes; a longer line is no project.
+constexpr std::size_t lineaMaxima = 4 * 32767;
+
+/// The system tells its reasons in the language of the machine: the usual ones are told here in the user's.
+std::string razon(const std::error_code& ec) {
+  static constexpr std::array<std::pair<std::errc, const char*>, 9> conocidas = {{
+      {std::errc::no_such_file_or_directory, "no existe el archivo o la carpeta"},
+      {std::errc::not_a_directory, "no existe la carpeta"},
+      {std::errc::permission_denied, "no hay permiso"},
+      {std::errc::operation_not_permitted, "no hay permiso"},
+      {std::errc::read_only_file_system, "el disco es de solo lectura"},
+      {std::errc::no_space_on_device, "no queda espacio en el disco"},
+      {std::errc::file_too_large, "no queda espacio en el disco"},
+      {std::errc::filename_too_long, "el nombre es demasiado largo"},
+      {std::errc::io_error, "el disco no responde"},
+  }};
+  for (const auto& [motivo, texto] : conocidas)
+    if (ec == motivo) return texto;
+  return "fallo " + std::to_string(ec.value()) + " del sistema";
+}
 
 std::string razonDelSistema() {
-  return errno != 0 ? std::generic_category().message(errno) : std::string("motivo desconocido");
+  return errno != 0 ? razon(std::error_code(errno, std::generic_category())) : std::string("motivo desconocido");
 }
 
 std::string nombre(const fs::path& archivo) {
@@ -44,12 +64,18 @@ std::string leerInicio(const fs::path& archivo, std::size_t maximo) {
   errno = 0;
   std::ifstream f(archivo, std::ios::binary);
   if (!f) fallarLectura(archivo, razonDelSistema());
-  std::string contenido(maximo, '\0');
-  f.read(contenido.data(), static_cast<std::streamsize>(maximo));
+  std::string contenido;
+  std::array<char, 16384> trozo{};
+  while (f && contenido.size() < maximo) {
+    f.read(trozo.data(), trozo.size());
+    contenido.append(trozo.data(), static_cast<std::size_t>(f.gcount()));
+  }
   if (f.bad()) fallarLectura(archivo, razonDelSistema());
-  contenido.resize(static_cast<std::size_t>(f.gcount()));
   return contenido;
 }
+
+/// A control character, which no line of a project holds.
+bool esMando(char c) { return static_cast<unsigned char>(c) < 0x20 && c != '\t'; }
 
 using Archivo = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
@@ -87,8 +113,7 @@ std::vector<std::string> leerLineas(const fs::path& archivo, std::size_t cuantas
     const std::size_t fin = resto.find('\n');
     std::string_view linea = resto.substr(0, fin);
     if (!linea.empty() && linea.back() == '\r') linea.remove_suffix(1);
-    const bool binaria = std::any_of(linea.begin(), linea.end(),
-                                     [](char c) { return static_cast<unsigned char>(c) < 0x20 && c != '\t'; });
+    const bool binaria = std::any_of(linea.begin(), linea.end(), esMando);
     if (binaria || linea.size() > lineaMaxima) fallarLectura(archivo, "no es un archivo de proyecto");
     lineas.push_back(aUtf8(linea));
     if (fin == std::string_view::npos) break;
@@ -99,7 +124,9 @@ std::vector<std::string> leerLineas(const fs::path& archivo, std::size_t cuantas
 
 void escribirLineas(const fs::path& archivo, const std::vector<std::string>& lineas) {
   std::string contenido;
-  for (const std::string& linea : lineas) {
+  for (std::string linea : lineas) {
+    // a line break pasted into a field would shift all lines behind it
+    std::replace_if(linea.begin(), linea.end(), esMando, ' ');
     // a text that the code page cannot hold goes as UTF-8, which is understood on reading: nothing typed is lost
     const std::string codificada = aWindows1252(linea);
     contenido += (aUtf8(codificada) == linea ? codificada : linea) + "\r\n";
@@ -109,7 +136,9 @@ void escribirLineas(const fs::path& archivo, const std::vector<std::string>& lin
 
 void escribirAtomico(const fs::path& archivo, std::string_view contenido) {
   std::error_code ec;
-  if (fs::is_directory(archivo, ec)) fallarEscritura(archivo, "es una carpeta");
+  const fs::file_status anterior = fs::status(archivo, ec);
+  if (fs::is_directory(anterior)) fallarEscritura(archivo, "es una carpeta");
+  if (fs::exists(anterior) && !fs::is_regular_file(anterior)) fallarEscritura(archivo, "no es un archivo de texto");
   // through a link, so that the link stays and its target is replaced
   fs::path destino = fs::is_symlink(archivo, ec) ? fs::canonical(archivo, ec) : archivo;
   if (ec || destino.empty()) destino = archivo;
@@ -126,12 +155,11 @@ void escribirAtomico(const fs::path& archivo, std::string_view contenido) {
     limpiar();
     fallarEscritura(archivo, texto.substr(texto.rfind(": ") + 2));
   }
-  const fs::file_status anterior = fs::status(destino, ec);
-  if (!ec && fs::exists(anterior)) fs::permissions(temporal, anterior.permissions(), ec);
+  if (fs::exists(anterior)) fs::permissions(temporal, anterior.permissions(), ec);
   fs::rename(temporal, destino, ec);
   if (ec) {
     limpiar();
-    fallarEscritura(archivo, ec.message());
+    fallarEscritura(archivo, razon(ec));
   }
 }
 

@@ -38,8 +38,9 @@ class FalloArchivo : public std::runtime_error {
 /// or a line longer than any field.
 std::vector<std::string> leerLineas(const std::filesystem::path& archivo, std::size_t cuantas);
 
-/// Writes the lines in Windows-1252 with CRLF (a line with other characters in UTF-8), to a temporary file beside the
-/// target that is renamed over it, so that a failure leaves the former file whole. Fails with FalloArchivo.
+/// Writes the lines in Windows-1252 with CRLF (a line with other characters in UTF-8; control characters as blanks), to
+/// a temporary file beside the target that is renamed over it, so that a failure leaves the former file whole. Fails
+/// with FalloArchivo.
 void escribirLineas(const std::filesystem::path& archivo, const std::vector<std::string>& lineas);
 
 /// Writes bytes atomically, as escribirLineas does.

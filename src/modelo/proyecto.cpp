@@ -23,12 +23,6 @@ const CampoSingle* campoDelRegistro(std::string_view nombre) {
   return it == todos.end() ? nullptr : &*it;
 }
 
-bool extensionDeProyecto(std::string_view archivo) {
-  const auto todos = {&formatoRapida, &formatoCaidaInclinada, &formatoCaidaVertical};
-  return std::any_of(todos.begin(), todos.end(),
-                     [&](const FormatoProyecto* f) { return tieneExtension(archivo, f->extension); });
-}
-
 }  // namespace
 
 std::string tituloDeArchivo(const std::string& ruta) { return comoTexto(comoRuta(ruta).filename()); }
@@ -74,7 +68,7 @@ OpcionesArchivo Proyecto::opciones(std::string titulo) const {
 }
 
 void Proyecto::adoptar(const std::string& ruta) {
-  estado_.rutaArchivo = tituloDeArchivo(ruta);
+  estado_.rutaArchivo = propio_ = tituloDeArchivo(ruta);
   ventana_.Caption = std::string(formato_.titulo) + " - " + estado_.rutaArchivo;
   estado_.esNuevo = false;
 }
@@ -110,10 +104,9 @@ void Proyecto::escribir(const std::string& ruta) {
 }
 
 void Proyecto::Guardar_Archivo() {
-  // the record keeps one file name for the three structures: a name of another structure's kind is never overwritten
-  const bool ajeno =
-      !tieneExtension(estado_.rutaArchivo, formato_.extension) && extensionDeProyecto(estado_.rutaArchivo);
-  if (estado_.esNuevo || ajeno || estado_.rutaArchivo.empty()) {
+  // the record keeps one file name for the three structures: a file that another one opened or saved is never
+  // overwritten
+  if (estado_.esNuevo || estado_.rutaArchivo.empty() || estado_.rutaArchivo != propio_) {
     Guardarcomo_Archivo();
     return;
   }

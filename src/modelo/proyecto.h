@@ -40,6 +40,7 @@ class Proyecto {
   Ventana& ventana_;
   Ventana& parametros_;
   Dialogos& dialogos_;
+  std::string propio_;  ///< name of the file that this structure last opened or saved
 };
 
 /// The name of a file without its folder, and whether a file of that path exists.

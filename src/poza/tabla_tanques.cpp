@@ -111,6 +111,12 @@ void SELECCIONARTANQUE(Rejilla& tabla, const DesignState& e, const Form2& parame
   }
 }
 
+int filaElegida(const DesignState& e) {
+  for (int fila = 1; fila < filas; ++fila)
+    if (e.tipoTanque == fila) return fila;
+  return 0;
+}
+
 bool longitudPoza(DesignState& e, const Form2& p) {
   const auto conK = [&e](const TextBox& campo) {
     e.kLongPoza = Val(campo.Text);

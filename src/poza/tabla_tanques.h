@@ -21,6 +21,9 @@ void prepararTablaTanques(Rejilla& tabla);
 void SELECCIONARTANQUE(Rejilla& tabla, const DesignState& estado, const Form2& parametros,
                        const CriterioTanques& criterio);
 
+/// The row of the basin type in force, 0 for a type that is none of 1 to 6.
+int filaElegida(const DesignState& estado);
+
 /// Sets longPoza (and kLongPoza where the rule has a K) for the basin type in force; false for a type that is none of
 /// 1 to 6, which leaves both as they are.
 bool longitudPoza(DesignState& estado, const Form2& parametros);

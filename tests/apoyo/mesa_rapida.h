@@ -1,0 +1,69 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "apoyo/dialogos_guion.h"
+#include "apoyo/navegador_mudo.h"
+#include "rapida/form10.h"
+
+namespace calvento {
+
+using Datos = std::vector<std::pair<std::string_view, std::string>>;
+
+/// Sensible data of a chute of three reaches with a rectangular basin; its one warning is the width of the basin.
+inline Datos rapidaDeTresTramos() {
+  return {{"Text5", "12"},      {"Text6", "3"},       {"Text7", "1.5"},    {"Text8", "0.0225"}, {"Text9", "0.0006"},
+          {"Text10", "2.1"},    {"Text11", "0.5"},    {"Text12", "0.015"}, {"Text13", "0.06"},  {"Text15", "0.15"},
+          {"Text14", "0.40"},   {"Text17", "3"},      {"Text16", "3.5"},   {"Text18", "1.5"},   {"Text19", "0.0225"},
+          {"Text20", "0.0005"}, {"Text23", "2.95"},   {"Text24", "0"},     {"Text25", "15200"}, {"Text1", "420.00"},
+          {"Text3", "417.25"},  {"Text27", "410.10"}, {"Text2", "388.75"}, {"Text4", "387.20"}, {"Text21", "2"},
+          {"Text22", "1.5"},    {"Text26", "10"}};
+}
+inline constexpr const char* avisoAnchoDeTresTramos = "Ancho de poza debe ser menor de: 2.718";
+
+/// Sensible data of a chute of one reach that calculates without a box but the one of the basin type.
+inline Datos rapidaDeUnTramo() {
+  return {{"Text5", "1.8"},    {"Text6", "1.20"},  {"Text7", "1"},       {"Text8", "0.015"},   {"Text9", "0.001"},
+          {"Text10", "0.95"},  {"Text11", "0"},    {"Text12", "0.015"},  {"Text13", "0.25"},   {"Text15", ""},
+          {"Text14", ""},      {"Text17", "1"},    {"Text16", "1.20"},   {"Text18", "1"},      {"Text19", "0.015"},
+          {"Text20", "0.001"}, {"Text23", "1.00"}, {"Text24", "0"},      {"Text25", "1250"},   {"Text1", "2534.60"},
+          {"Text3", ""},       {"Text27", ""},     {"Text2", "2524.60"}, {"Text4", "2524.10"}, {"Text21", "2"},
+          {"Text22", "1.5"},   {"Text26", "10"}};
+}
+
+/// The chute window with all that it needs; boxes from a script unless others are given.
+template <class Cajas = DialogosGuion>
+struct Mesa {
+  Cajas dialogos;
+  DesignState estado;
+  NavegadorMudo navegador;
+  Form2 form2{navegador};
+  Form10 f{estado, form2, dialogos, navegador};
+
+  void poner(const Datos& datos) {
+    for (const auto& [campo, valor] : datos) {
+      TextBox* c = f.template buscar<TextBox>(campo);
+      ASSERT_NE(c, nullptr) << campo;
+      c->Text = valor;
+    }
+  }
+  std::vector<Menu*> menusDeResultados() {
+    return {&f.mngrafico, &f.mntabla, &f.mntanque, &f.mnst, &f.mntperfil, &f.mntrayectoria, &f.mnformondas};
+  }
+  /// How many of the seven result menus are enabled.
+  int resultadosAbiertos() {
+    int n = 0;
+    for (const Menu* m : menusDeResultados()) n += m->Enabled ? 1 : 0;
+    return n;
+  }
+  double valor(Single DesignState::*campo) const { return static_cast<double>((estado.*campo).valor()); }
+};
+using MesaRapida = Mesa<>;
+
+inline constexpr const char* avisoSinTanque = "Seleccione el Tipo de Tanque Amortiguador a utilizar";
+
+}  // namespace calvento

@@ -1,0 +1,286 @@
+#include <cstdlib>
+#include <filesystem>
+#include <random>
+#include <sys/stat.h>
+
+#include "apoyo/carpeta_prueba.h"
+#include "apoyo/mesa_rapida.h"
+#include "modelo/codificacion.h"
+
+namespace calvento {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The fields in the order of the lines, counted out by hand; line 36 is the basin type.
+const std::vector<std::string_view> ordenEscritoAMano = {
+    "Text5",   "Text6",   "Text7",   "Text8",   "Text9",    "Text10",     "Text11",  "Text12",  "Text13",  "Text15",
+    "Text14",  "Text16",  "Text18",  "Text19",  "Text20",   "Text23",     "Text24",  "Text1",   "Text3",   "Text27",
+    "Text2",   "Text4",   "Text21",  "Text22",  "Text25",   "Text26",     "2.Text1", "2.Text2", "2.Text3", "2.Text4",
+    "2.Text5", "2.Text6", "2.Text7", "2.Text8", "2.Text10", "tipoTanque", "Text17"};
+
+TextBox& campo(MesaRapida& m, std::string_view nombre) {
+  return nombre.starts_with("2.") ? *m.form2.buscar<TextBox>(nombre.substr(2)) : *m.f.buscar<TextBox>(nombre);
+}
+
+/// A calculable project of one reach with basin type 3, its lines ended by `fin`.
+std::string proyecto(std::string_view fin, const std::string& progresiva = "1250") {
+  std::string s;
+  for (const std::string& linea : std::vector<std::string>{
+           "1.8",     "1.20",    "1",    "0.015", "0.001",    "0.95", "0", "0.015",   "0.25", "",
+           "",        "1.20",    "1",    "0.015", "0.001",    "1.00", "0", "2534.60", "",     "",
+           "2524.60", "2524.10", "2",    "1.5",   progresiva, "10",   "5", "6.2",     "2.8",  "4.4",
+           "0.25",    "0.30",    "0.30", "0.20",  "6",        "3",    "1"})
+    s.append(linea).append(fin);
+  return s;
+}
+
+void sinTocar(const MesaRapida& m, const char* que) {
+  EXPECT_FALSE(m.f.calculado()) << que;
+  EXPECT_EQ(m.estado.rutaArchivo, "") << que;
+  EXPECT_TRUE(m.estado.esNuevo) << que;
+  EXPECT_EQ(m.f.Caption.valor(), "Rápida") << que;
+}
+
+TEST(ChuteProject, EveryFieldHasItsLine) {
+  CarpetaPrueba carpeta;
+  MesaRapida m;
+  std::string contenido;
+  for (std::size_t i = 0; i < 37; ++i) contenido += i == 35 ? "4\r\n" : "ñ²" + std::to_string(i) + "\r\n";
+  const std::string bytes = aWindows1252(contenido);
+  EXPECT_NE(bytes.find("\xF1\xB2"
+                       "36\r\n"),
+            std::string::npos);
+
+  for (std::size_t i = 0; i < 37; ++i)
+    if (i != 35) campo(m, ordenEscritoAMano[i]).Text = "ñ²" + std::to_string(i);
+  m.estado.tipoTanque = 4;
+  m.dialogos.guarda(carpeta.en("a.cvr"));
+  m.f.mnguardarcomo.Click();
+  EXPECT_EQ(carpeta.leer("a.cvr"), bytes);
+  EXPECT_EQ(m.dialogos.ultimasOpciones.titulo, "Guardar como");
+  EXPECT_EQ(m.dialogos.ultimasOpciones.filtro, "CVI File(*.CVR)|*.cvr");
+  EXPECT_EQ(m.dialogos.ultimasOpciones.extension, "cvr");
+
+  MesaRapida otra;
+  otra.form2.Text9.Text = "20";
+  otra.dialogos.abre(carpeta.en("a.cvr")).esperaFallo("División por cero: Ingresar datos correctamente, verificar");
+  otra.f.mnabrir.Click();
+  for (std::size_t i = 0; i < 37; ++i) {
+    if (i == 35) continue;
+    EXPECT_EQ(campo(otra, ordenEscritoAMano[i]).Text.valor(), "ñ²" + std::to_string(i));
+  }
+  EXPECT_EQ(otra.valor(&DesignState::tipoTanque), 4);
+  EXPECT_EQ(otra.form2.Text9.Text.valor(), "20") << "the chute stores no angle";
+}
+
+TEST(ChuteProject, ReadsWhatOtherEditorsWrite) {
+  CarpetaPrueba carpeta;
+  const std::string latina = "1250 \xF1\xB3\x80";  // Windows-1252
+  const struct {
+    const char* que;
+    std::string contenido;
+    const char* progresiva;
+  } casos[] = {
+      {"CRLF", proyecto("\r\n"), "1250"},
+      {"LF", proyecto("\n"), "1250"},
+      {"mark and UTF-8", "\xEF\xBB\xBF" + proyecto("\r\n", "1250 ñ³€"), "1250 ñ³€"},
+      {"UTF-8", proyecto("\n", "1250 ñ³€"), "1250 ñ³€"},
+      {"code page", proyecto("\r\n", latina), "1250 ñ³€"},
+      {"extra lines", proyecto("\r\n") + "77\r\n" + std::string(5000, '\0'), "1250"},
+      {"no end of the last line", proyecto("\n").substr(0, proyecto("\n").size() - 1), "1250"},
+  };
+  for (const auto& c : casos) {
+    MesaRapida m;
+    m.f.Text3.Text = m.f.Text15.Text = "5";
+    carpeta.escribir("b.cvr", c.contenido);
+    m.f.abrir("b.cvr");
+    EXPECT_TRUE(m.f.calculado()) << c.que;
+    EXPECT_EQ(m.f.Text25.Text.valor(), c.progresiva) << c.que;
+    EXPECT_EQ(m.f.Text3.Text.valor() + m.f.Text15.Text.valor(), "") << "empty lines are empty fields, " << c.que;
+    EXPECT_EQ(m.form2.Text2.Text.valor() + m.form2.Text5.Text.valor(), "6.20.25") << c.que;
+    EXPECT_EQ(m.f.Caption.valor(), "Rápida - b.cvr") << c.que;
+    EXPECT_FALSE(m.estado.esNuevo) << c.que;
+    EXPECT_EQ(m.estado.numTramos, 1) << c.que;
+    // type 3 is USBR II: its row is painted, its rule sets the length, its sheet can be opened
+    EXPECT_EQ(m.f.Grid1.tabla.fondo(3, 0), color::celdaElegida) << c.que;
+    EXPECT_EQ(m.f.Grid1.tabla.fondo(2, 3), color::celda) << c.que;
+    EXPECT_NEAR(m.valor(&DesignState::longPoza), 2.8 * m.valor(&DesignState::y2), 1e-5) << c.que;
+    EXPECT_TRUE(m.f.mntabla.Enabled) << c.que;
+  }
+}
+
+TEST(ChuteProject, WhatIsNoProjectLosesNothingAndCalculatesNothing) {
+  CarpetaPrueba carpeta;
+  fs::create_directory("carpeta.cvr");
+  ASSERT_EQ(mkfifo("tubo.cvr", 0600), 0);
+  carpeta.escribir("binario.cvr", proyecto("\r\n").substr(0, 60) + std::string("\0\1\2\xFF", 4) + proyecto("\r\n"));
+  carpeta.escribir("linea.cvr", std::string(1 << 20, '7'));
+  carpeta.escribir("cortado.cvr", "5\r\n6\r\n7\r\n");
+  carpeta.escribir("nada.cvr", "");
+  carpeta.escribir("tipo.cvr", proyecto("\r\n").replace(proyecto("\r\n").rfind("3\r\n1"), 1, "1e999"));
+  const struct {
+    const char* ruta;
+    const char* mensaje;
+    int leidas;
+  } casos[] = {
+      {"carpeta.cvr", "No se puede leer el archivo carpeta.cvr: es una carpeta", 0},
+      {"tubo.cvr", "No se puede leer el archivo tubo.cvr: no es un archivo de texto", 0},
+      {"binario.cvr", "No se puede leer el archivo binario.cvr: no es un archivo de proyecto", 0},
+      {"linea.cvr", "No se puede leer el archivo linea.cvr: no es un archivo de proyecto", 0},
+      {"falta.cvr", "No se puede leer el archivo falta.cvr: no existe el archivo o la carpeta", 0},
+      {"nada.cvr/a.cvr", "No se puede leer el archivo a.cvr: no existe la carpeta", 0},
+      {"cortado.cvr", "El archivo cortado.cvr está incompleto: termina en la línea 3 de 37", 3},
+      {"nada.cvr", "El archivo nada.cvr está incompleto: termina en la línea 0 de 37", 0},
+      {"tipo.cvr", "El archivo tipo.cvr tiene un número no válido: Desbordamiento: el número es demasiado grande", 35},
+  };
+  for (const auto& c : casos) {
+    MesaRapida m;
+    for (const auto nombre : ordenEscritoAMano)
+      if (nombre != "tipoTanque") campo(m, nombre).Text = "tecleado";
+    m.dialogos.esperaFallo(c.mensaje);
+    m.f.abrir(c.ruta);
+    int guardados = 0;
+    for (const auto nombre : ordenEscritoAMano)
+      if (nombre != "tipoTanque") guardados += campo(m, nombre).Text.valor() == "tecleado" ? 1 : 0;
+    EXPECT_EQ(guardados, 36 - c.leidas) << c.ruta;
+    sinTocar(m, c.ruta);
+  }
+}
+
+TEST(ChuteProject, AStoredTypeThatIsNoneOpensAndCalculates) {
+  CarpetaPrueba carpeta;
+  for (const char* tipo : {"0", "7", "2.5", "-1", "1e30"}) {
+    MesaRapida m;
+    std::string s = proyecto("\r\n");
+    carpeta.escribir("t.cvr", s.replace(s.rfind("3\r\n1"), 1, tipo));
+    m.dialogos.esperaAviso(avisoSinTanque).esperaFallo("El proyecto no indica un tipo de tanque de la tabla (1 a 6)");
+    m.f.abrir("t.cvr");
+    EXPECT_TRUE(m.f.calculado()) << tipo;
+    for (int fila = 1; fila < 7; ++fila) EXPECT_EQ(m.f.Grid1.tabla.fondo(fila, 1), color::celda) << tipo;
+  }
+}
+
+TEST(ChuteProject, AFailedWritingLeavesTheFormerFile) {
+  CarpetaPrueba carpeta;
+  carpeta.escribir("lleno.cvr", "former");
+  // the device stands where the new content is written before it replaces the former
+  fs::create_symlink("/dev/full", "lleno.cvr.tmp~");
+  fs::create_directory("carpeta.cvr");
+  ASSERT_EQ(mkfifo("tubo.cvr", 0600), 0);
+  const struct {
+    std::string ruta;
+    bool existe;
+    const char* mensaje;
+  } casos[] = {
+      {"lleno.cvr", true, "No se puede guardar el archivo lleno.cvr: no queda espacio en el disco"},
+      {"carpeta.cvr", true, "No se puede guardar el archivo carpeta.cvr: es una carpeta"},
+      {"tubo.cvr", true, "No se puede guardar el archivo tubo.cvr: no es un archivo de texto"},
+      {"falta/a.cvr", false, "No se puede guardar el archivo a.cvr: no existe el archivo o la carpeta"},
+      {"lleno.cvr/a.cvr", false, "No se puede guardar el archivo a.cvr: no existe la carpeta"},
+      {std::string(300, 'a'), false, nullptr},
+  };
+  for (const auto& c : casos) {
+    MesaRapida m;
+    m.poner(rapidaDeUnTramo());
+    m.dialogos.guarda(c.ruta);
+    if (c.existe) m.dialogos.responde(true);
+    m.dialogos.esperaFallo(c.mensaje == nullptr ? "" : c.mensaje);
+    m.f.mnguardarcomo.Click();
+    sinTocar(m, c.ruta.c_str());
+    EXPECT_EQ(m.f.Text1.Text.valor(), "2534.60");
+  }
+  EXPECT_EQ(carpeta.leer("lleno.cvr"), "former");
+  EXPECT_EQ(carpeta.entradas(), 3) << "no leftovers";
+}
+
+TEST(ChuteProject, TheOverwriteQuestionDecides) {
+  CarpetaPrueba carpeta;
+  MesaRapida m;
+  m.f.Text5.Text = "3";
+  carpeta.escribir("viejo.cvr", "former");
+  const char* pregunta = "El archivo viejo.cvr ya existe. ¿Desea reemplazarlo?";
+  m.dialogos.guarda(std::nullopt);  // cancelled
+  m.f.mnguardar.Click();
+  m.dialogos.guarda(carpeta.en("viejo.cvr")).responde(false, pregunta);
+  m.f.mnguardar.Click();
+  EXPECT_EQ(carpeta.leer("viejo.cvr"), "former");
+  sinTocar(m, "No");
+  m.dialogos.guarda(carpeta.en("viejo.cvr")).responde(true, pregunta);
+  m.f.Toolbar1.ButtonClick("guardar");
+  EXPECT_TRUE(carpeta.leer("viejo.cvr").starts_with("3\r\n\r\n"));
+  EXPECT_EQ(m.estado.rutaArchivo, "viejo.cvr");
+  EXPECT_FALSE(m.estado.esNuevo);
+
+  m.f.Text5.Text = "4";
+  m.f.mnguardar.Click();  // no question any more
+  EXPECT_TRUE(carpeta.leer("viejo.cvr").starts_with("4\r\n"));
+
+  m.f.mnnuevo.Click();
+  EXPECT_EQ(m.f.Caption.valor(), "Rápida");
+  EXPECT_EQ(m.estado.rutaArchivo, "viejo.cvr");
+  m.dialogos.guarda(std::nullopt);
+  m.f.mnguardar.Click();
+  EXPECT_TRUE(carpeta.leer("viejo.cvr").starts_with("4\r\n"));
+  EXPECT_EQ(carpeta.entradas(), 1);
+}
+
+TEST(ChuteProject, NeverWritesOverTheFileOfAnotherStructure) {
+  CarpetaPrueba carpeta;
+  for (const char* ajeno : {"drop.cvi", "drop.cvv", "drop.txt", "other.cvr"}) {
+    MesaRapida m;
+    m.dialogos.guarda("own.cvr");
+    m.f.mnguardar.Click();
+    carpeta.escribir(ajeno, "of another");
+    m.estado.rutaArchivo = ajeno;  // as another structure's window leaves it
+    m.dialogos.guarda(std::nullopt);
+    m.f.mnguardar.Click();
+    EXPECT_EQ(carpeta.leer(ajeno), "of another");
+    fs::remove("own.cvr");
+  }
+}
+
+TEST(ChuteProject, GarbageTextsComeBack) {
+  CarpetaPrueba carpeta;
+  std::mt19937 azar(7);
+  const std::vector<std::string> trozos = {"1",  "2.5",    "-",      "e",      ",",
+                                           " ",  "\t",     "ñ",      "€",      "²",
+                                           "Ω",  "漢",     "😀",      "\"",     "'",
+                                           "\\", "\u0081", "\u0085", "Ã©",     "é",
+                                           "..", "1e9",    "\u00A0", "\u0152", std::string(5000, '8')};
+  for (int vuelta = 0; vuelta < 60; ++vuelta) {
+    DesignState estado;
+    DialogosGuion dialogos;
+    NavegadorMudo navegador;
+    Form2 form2(navegador);
+    Ventana hoja("Form10");
+    std::vector<std::unique_ptr<TextBox>> campos;
+    std::vector<std::string> textos;
+    for (const auto nombre : ordenEscritoAMano) {
+      if (nombre.find("Text") != 0) continue;
+      campos.push_back(std::make_unique<TextBox>(hoja, nombre));
+      std::string texto;
+      for (auto n = azar() % 6; n > 0; --n) texto += trozos[azar() % trozos.size()];
+      campos.back()->Text = texto;
+      textos.push_back(texto);
+    }
+    Proyecto p(formatoRapida, estado, hoja, form2, dialogos);
+    dialogos.guarda("g.cvr");
+    p.Guardarcomo_Archivo();
+    for (const auto& c : campos) c->Text = "?";
+    bool leido = false;
+    p.abrir("g.cvr", [&] { leido = true; });
+    EXPECT_TRUE(leido);
+    for (std::size_t i = 0; i < campos.size(); ++i) EXPECT_EQ(campos[i]->Text.valor(), textos[i]);
+    fs::remove("g.cvr");
+  }
+}
+
+TEST(ChuteProject, ALineBreakInAFieldShiftsNoLine) {
+  CarpetaPrueba carpeta;
+  escribirLineas("s.cvr", {"1\n2", "a\rb\x01", "3"});
+  EXPECT_EQ(leerLineas("s.cvr", 9), (std::vector<std::string>{"1 2", "a b ", "3"}));
+}
+
+}  // namespace
+}  // namespace calvento
