@@ -1,0 +1,285 @@
+#include <cmath>
+#include <random>
+
+#include "apoyo/mesa_rapida.h"
+#include "hidraulica/transicion.h"
+
+namespace calvento {
+namespace {
+
+using D = DesignState;
+
+/// Notes every message and answers every question with Yes.
+class DialogosLibres : public Dialogos {
+ public:
+  std::vector<std::string> dichas;
+  void aviso(const std::string& texto) override { dichas.push_back(texto); }
+  void fallo(const std::string& texto) override { dichas.push_back("fallo: " + texto); }
+  bool pregunta(const std::string& texto) override { return aviso(texto), true; }
+  std::optional<std::string> abrirArchivo(const OpcionesArchivo&) override { return {}; }
+  std::optional<std::string> guardarArchivo(const OpcionesArchivo&) override { return {}; }
+};
+using MesaLibre = Mesa<DialogosLibres>;
+
+// the section in bare doubles, apart from the program's own
+double area(double b, double z, double y) { return y * (b + z * y); }
+double alturaVelocidad(double Q, double b, double z, double y) { return std::pow(Q / area(b, z, y), 2) / (2 * 9.81); }
+double friccion(double Q, double b, double z, double n, double y) {
+  const double A = area(b, z, y);
+  const double P = b + 2 * y * std::hypot(1, z);
+  return std::pow(Q * n / A, 2) * std::pow(P / A, 4.0 / 3);
+}
+/// First moment of the section about the surface plus the flux of momentum, m³.
+double impulso(double Q, double b, double z, double y) {
+  return b * y * y / 2 + z * y * y * y / 3 + Q * Q / (9.81 * area(b, z, y));
+}
+
+void alAzar(MesaLibre& m, std::mt19937& azar) {
+  const auto entre = [&](double a, double b) { return std::uniform_real_distribution<>(a, b)(azar); };
+  const auto t = [](double x) { return texto(Round(Real(x), 4)); };
+  const double Q = entre(0.3, 25);
+  const double b = 0.765 * std::pow(Q, 0.4) * entre(0.8, 1.2);
+  const double caida = entre(4, 30);
+  const double inicio = entre(50, 900);
+  m.poner(rapidaDeTresTramos());
+  m.poner({{"Text5", t(Q)},
+           {"Text6", t(b * entre(1, 1.6))},
+           {"Text16", t(b * entre(1, 1.6))},
+           {"Text8", t(entre(0.014, 0.025))},
+           {"Text9", t(entre(0.0004, 0.002))},
+           {"Text10", t(b)},
+           {"Text11", azar() % 2 == 0 ? "0" : "0.5"},
+           {"Text13", t(entre(0.05, 0.15))},
+           {"Text15", t(entre(0.1, 0.25))},
+           {"Text14", t(entre(0.15, 0.45))},
+           {"Text17", std::to_string(1 + azar() % 3)},
+           {"Text23", t(b * entre(1, 1.7))},
+           {"Text24", azar() % 2 == 0 ? "0" : t(entre(0.25, 1))},
+           {"Text1", t(inicio)},
+           {"Text3", t(inicio - caida * entre(0.2, 0.4))},
+           {"Text27", t(inicio - caida * entre(0.5, 0.8))},
+           {"Text2", t(inicio - caida)},
+           {"Text4", t(inicio - caida - entre(0.3, 2))},
+           {"Text26", t(entre(0, 20))}});
+  m.estado.tipoTanque = static_cast<int>(1 + azar() % 6);
+}
+
+/// The jump's two balances, the basin floor and the identities of the profile, on the finished record.
+void comprobar(MesaLibre& m) {
+  const auto v = [&](Single D::*c) { return m.valor(c); };
+  const double Q = v(&D::Q), b = v(&D::bPoza), z = v(&D::zPoza), y1 = v(&D::y1), y2 = v(&D::y2);
+  const double k = v(&D::ahogamiento);
+  const double E1 = y1 + 1.1 * alturaVelocidad(Q, b, z, y1);
+  const double E2 = (y2 + alturaVelocidad(Q, b, z, y2)) * (1 + k);
+  const double abajo =
+      v(&D::cotaAbajo) + v(&D::ynAbajo) + alturaVelocidad(Q, v(&D::bAbajo), v(&D::zAbajo), v(&D::ynAbajo));
+  const double fin = v(&D::cotaFin) + v(&D::yFin) + alturaVelocidad(Q, v(&D::bRapida), v(&D::zRapida), v(&D::yFin));
+  EXPECT_LT(y1, y2);
+  EXPECT_NEAR(E2, E1 + abajo - fin, 0.002 * E1);
+  EXPECT_NEAR(impulso(Q, b, z, y1), impulso(Q, b, z, y2), 0.002 * impulso(Q, b, z, y2));
+  // on the floor the jet has the energy of the end of the chute, with a tenth more of velocity head
+  if (v(&D::cotaPoza) < v(&D::cotaAbajo)) {
+    EXPECT_NEAR(v(&D::cotaPoza) + E1, fin, 0.002 * E1 + 0.001);
+  }
+  EXPECT_NEAR(v(&D::profPoza), v(&D::cotaAbajo) - v(&D::cotaPoza), 1e-4);
+  const double A1 = area(b, z, y1);
+  // it belongs to the iterate before the last, whose depth may differ by the tolerance of a millimetre
+  EXPECT_NEAR(v(&D::fr1), Q / A1 / std::sqrt(9.81 * A1 / (b + 2 * z * y1)), 1.7 * v(&D::fr1) * 0.001 / y1);
+
+  // the tangent with the ramp lies above the floor, whatever the ramp was raised to
+  EXPECT_GE(v(&D::cotaTrayectoria), v(&D::cotaPoza) - 1e-3);
+  EXPECT_NEAR(v(&D::cotaFin) + v(&D::trayB) * v(&D::xTrayectoria) + v(&D::trayA) * std::pow(v(&D::xTrayectoria), 2),
+              v(&D::cotaTrayectoria), 1e-3);
+  EXPECT_NEAR(std::stod(m.f.Text21.Text), v(&D::zRampaEntrada), 1e-6);
+  // the parabola leaves along the chute; with the ramp of 2 it arrives along the ramp
+  EXPECT_EQ(v(&D::trayB), -v(&D::sUltimoTramo));
+  if (v(&D::zRampaEntrada) == 2) {
+    EXPECT_NEAR(2 * v(&D::trayA) * v(&D::xTrayectoria) + v(&D::trayB), -1.0 / 2, 1e-5);
+  }
+
+  // the wall of the basin is no lower than that of the canal behind it, and every wall holds water and freeboard
+  EXPECT_GE(v(&D::cotaPoza) + v(&D::hPoza), v(&D::cotaAbajo) + v(&D::hAbajo) - 0.026);
+  EXPECT_NEAR(v(&D::hArriba), v(&D::ynArriba) + 0.2, 0.0251);
+  for (Single D::*alto : {&D::hArriba, &D::hAbajo, &D::hRapida, &D::hPoza, &D::longTransEntrada, &D::longTransSalida})
+    EXPECT_NEAR(v(alto) / 0.05, std::round(v(alto) / 0.05), 1e-3);
+
+  const auto& perfil = m.estado.perfil;
+  ASSERT_EQ(perfil.size(), 100U * static_cast<unsigned>(m.estado.numTramos));
+  EXPECT_NEAR(Real(perfil.back().x).valor(), v(&D::longRapida), 1e-5 * v(&D::longRapida));
+  EXPECT_NEAR(Real(perfil.back().cota).valor(), v(&D::cotaFin), 1e-3);
+  EXPECT_NEAR(Real(perfil.back().tirante).valor(), v(&D::yFin), 1.1e-5);
+  double energia = 1e9;
+  for (const FilaPerfil& f : perfil) {
+    const double altura = std::pow(Real(f.velocidad).valor(), 2) / 19.62;
+    EXPECT_NEAR(Real(f.energia).valor(), Real(f.cota).valor() + Real(f.tirante).valor() + altura, 2e-4);
+    EXPECT_LT(Real(f.energia).valor(), energia + 1e-4) << "water does not gain energy";
+    energia = Real(f.energia).valor();
+  }
+}
+
+TEST(ChuteCalculation, BalancesHoldOverRandomChutes) {
+  std::mt19937 azar(20240611);
+  int calculadas = 0;
+  for (int i = 0; i < 300 && !HasFailure(); ++i) {
+    MesaLibre m;
+    alAzar(m, azar);
+    m.f.Command3.Click();
+    if (!m.f.calculado()) continue;
+    ++calculadas;
+    SCOPED_TRACE(i);
+    comprobar(m);
+  }
+  EXPECT_GT(calculadas, 250);
+}
+
+/// Gradually varied flow by Runge and Kutta's method over a reach of constant slope; the length runs along the bed.
+double integrar(double y, double L, double Q, double b, double z, double n, double S) {
+  const double porMetro = std::sqrt(1 + S * S);
+  const auto pendiente = [&](double h) {
+    const double A = area(b, z, h);
+    return (S - friccion(Q, b, z, n, h) * porMetro) / (1 - Q * Q * (b + 2 * z * h) / (9.81 * A * A * A));
+  };
+  constexpr int pasos = 4000;
+  const double h = L / pasos;
+  for (int i = 0; i < pasos; ++i) {
+    const double k1 = pendiente(y), k2 = pendiente(y + h * k1 / 2), k3 = pendiente(y + h * k2 / 2);
+    y += h * (k1 + 2 * k2 + 2 * k3 + pendiente(y + h * k3)) / 6;
+  }
+  return y;
+}
+
+TEST(ChuteCalculation, ProfileAgreesWithAFineIntegration) {
+  MesaLibre m;
+  m.poner(rapidaDeTresTramos());
+  m.f.Command3.Click();
+  ASSERT_TRUE(m.f.calculado());
+  const double S[] = {0.06, 0.15, 0.40};
+  for (std::size_t tramo = 0; tramo < 3; ++tramo) {
+    // from the tenth section of the reach on: next to the critical depth a step is coarse
+    const auto& filas = m.estado.perfil;
+    const std::size_t desde = tramo * 100 + 9, hasta = tramo * 100 + 99;
+    const double L = Real(filas[hasta].x).valor() - Real(filas[desde].x).valor();
+    const double y = integrar(Real(filas[desde].tirante).valor(), L, 12, 2.1, 0.5, 0.015, S[tramo]);
+    EXPECT_NEAR(Real(filas[hasta].tirante).valor(), y, 0.002 * y) << "reach " << tramo + 1;
+  }
+  // so long a chute that the flow is uniform at its end: there the energy line falls as the bed does
+  m.poner({{"Text17", "1"}, {"Text1", "700"}, {"Text2", "388.75"}});
+  m.f.Command3.Click();
+  ASSERT_TRUE(m.f.calculado());
+  EXPECT_NEAR(friccion(12, 2.1, 0.5, 0.015, m.valor(&D::yFin)) * std::sqrt(1 + 0.06 * 0.06), 0.06, 0.06 * 0.001);
+}
+
+TEST(ChuteCalculation, TheTableRunsOnFromReachToReach) {
+  MesaLibre m;
+  m.poner(rapidaDeUnTramo());
+  m.poner({{"Text13", "0.1"}, {"Text1", "100"}, {"Text2", "90"}, {"Text4", "89"}});
+  m.f.Command3.Click();
+  ASSERT_TRUE(m.f.calculado());
+  for (std::size_t i = 0; i < 100; ++i)
+    EXPECT_NEAR(Real(m.estado.perfil[i].x).valor(), static_cast<double>(i) + 1, 1e-4);
+  EXPECT_FLOAT_EQ(m.estado.perfil[99].cota.valor(), 90);
+  m.poner(rapidaDeTresTramos());
+  m.f.Command3.Click();
+  const auto x = [&](std::size_t fila) { return Real(m.estado.perfil[fila - 1].x).valor(); };
+  // by hand: 2.75/0.06, 7.15/0.15 and 21.35/0.40 in a hundred steps each
+  EXPECT_NEAR(x(100), 45.8333, 1e-3);
+  EXPECT_NEAR(x(101) - x(100), 0.476667, 1e-4);
+  EXPECT_NEAR(x(201) - x(200), 0.53375, 1e-4);
+  EXPECT_NEAR(x(300), 146.875, 1e-3);
+  EXPECT_NEAR(m.valor(&D::yTramo1), Real(m.estado.perfil[99].tirante).valor(), 1.1e-5);
+  EXPECT_NEAR(m.valor(&D::yTramo2), Real(m.estado.perfil[199].tirante).valor(), 1.1e-5);
+}
+
+TEST(ChuteCalculation, TransitionsByHandAndAtTheSecondPress) {
+  MesaRapida m;
+  m.poner(rapidaDeTresTramos());
+  m.f.Grid1.pulsar(4);
+  m.dialogos.esperaAviso(avisoAnchoDeTresTramos).esperaAviso(avisoAnchoDeTresTramos);
+  m.f.Command3.Click();
+  // canal 3 + 2·1.5·2.00 = 9 m; the chute has no wall height yet: (9 - 2.1)/2/tan 12.5° = 15.56
+  EXPECT_FLOAT_EQ(m.estado.longTransEntrada.valor(), 15.55F);
+  // canal 3.5 + 2·1.5·2.10 = 9.8 m to the basin's 2.95 m: 3.425/tan 12.5° = 15.45
+  EXPECT_FLOAT_EQ(m.estado.longTransSalida.valor(), 15.45F);
+  m.f.Command3.Click();
+  // now the chute's wall is 0.55 m: (9 - 2.65)/2/tan 12.5° = 14.32
+  EXPECT_FLOAT_EQ(m.estado.longTransEntrada.valor(), 14.3F);
+
+  const struct {
+    double calculada;
+    float construida;
+  } casos[] = {{0, 0.5F}, {0.1, 0.5F}, {0.1499, 0.5F}, {0.15, 0.15F}, {0.172, 0.15F}, {0.52, 0.5F}, {0.53, 0.55F}};
+  for (const auto& c : casos) {
+    Single longitud = c.calculada;
+    ajustarTransicionSalida(longitud);
+    EXPECT_FLOAT_EQ(longitud.valor(), c.construida) << c.calculada;
+  }
+  m.form2.Text9.Text = "0";
+  m.dialogos.esperaFallo("División por cero: Ingresar datos correctamente, verificar");
+  m.f.Command3.Click();
+}
+
+TEST(ChuteCalculation, FreeboardsOfChuteAndDownstreamCanalAreCrossed) {
+  MesaLibre m;
+  m.poner(rapidaDeTresTramos());
+  m.form2.Text6.Text = "0.5";
+  m.form2.Text8.Text = "0.1";
+  m.f.Command3.Click();
+  EXPECT_NEAR(m.valor(&D::hAbajo), m.valor(&D::ynAbajo) + 0.5, 0.0251);
+  EXPECT_NEAR(m.valor(&D::hRapida), m.valor(&D::yFin) + 0.1, 0.0251);
+}
+
+TEST(ChuteCalculation, ASteepRampIsRaisedToTheGrid) {
+  MesaRapida m;
+  m.poner(rapidaDeUnTramo());
+  m.f.Text21.Text = "1.8";
+  m.f.Grid1.pulsar(3);
+  m.dialogos.esperaAviso("El Talud(Z) de la rampa de ingreso a la poza debe ser >=1.95");
+  m.f.Command3.Click();
+  EXPECT_EQ(m.f.Text21.Text.valor(), "1.95");
+  EXPECT_FLOAT_EQ(m.estado.zRampaEntrada.valor(), 1.95F);
+  // the least slope by the parabola through the floor, in bare doubles
+  const double A = m.valor(&D::trayA), B = m.valor(&D::trayB), h = m.valor(&D::cotaFin) - m.valor(&D::cotaPoza);
+  const double x = (-B - std::sqrt(B * B - 4 * A * h)) / (2 * A);
+  const double minimo = -(2 * B + 1) / (2 * A * x);
+  EXPECT_GE(1.95, minimo + 0.025);
+  EXPECT_LE(1.95, minimo + 0.075);
+  m.f.Command3.Click();  // enough now: no message
+}
+
+TEST(ChuteCalculation, StartOfASupercriticalCanalAndTheDrowningLine) {
+  MesaRapida m;
+  // a steep canal: the chute starts with the canal's normal depth, not with its own
+  m.poner(rapidaDeUnTramo());
+  m.poner({{"Text9", "0.02"}, {"Text26", "8"}});
+  m.f.Grid1.pulsar(3);
+  m.f.Label35.Caption = "former";
+  m.dialogos.responde(
+      true, "FLUJO SUPER CRITICO EN CANAL AGUAS ARRIBA; DESEA INICIAR EL CALCULO CON Yn EN EL CANAL DE LA RÁPIDA?");
+  m.f.Command3.Click();
+  EXPECT_TRUE(m.f.calculado());
+  EXPECT_EQ(m.valor(&D::ycControl), m.valor(&D::ynArriba));
+  EXPECT_EQ(m.valor(&D::sobreelevacion), 0);
+  // the narrow canal behind is quicker than the basin
+  const double v2 = m.valor(&D::v2), va = m.valor(&D::vAbajo);
+  const double k = (va * va - v2 * v2) / (v2 * v2 + 2 * m.valor(&D::y2) * 9.81);
+  EXPECT_EQ(m.f.Label35.Caption.valor(), "k=  " + texto(Round(Real(k * 100), 2)) + "%  ;Y2=h+Yw");
+  m.poner({{"Text16", "40"}});  // a wide one is slower
+  m.f.Label35.Caption = "former";
+  m.dialogos.responde(true);
+  m.f.Command3.Click();
+  EXPECT_EQ(m.f.Label35.Caption.valor(), "former");
+}
+
+TEST(ChuteCalculation, TooLittleEnergyForABasinIsToldAndStops) {
+  MesaRapida m;
+  m.poner(rapidaDeUnTramo());
+  m.poner({{"Text4", "2530"}});  // the outlet lies above the end of the chute
+  m.dialogos.esperaAviso("NO ES POSIBLE CALCULAR TIRANTE CONJUGADO MENOR DEL RESALTO, CORREGIR ENTRADA DE DATOS")
+      .esperaFallo("División por cero: Ingresar datos correctamente, verificar");
+  m.f.Command3.Click();
+  EXPECT_FALSE(m.f.calculado());
+  EXPECT_EQ(m.valor(&D::y1), 0);
+}
+
+}  // namespace
+}  // namespace calvento
