@@ -44,7 +44,8 @@ void VentanaTanques::tomarTanqueLeido() {
   // the row is painted first: the length of a basin without a Froude number fails
   pintarTabla(Grid1.tabla, filaElegida(estado_));
   Grid1.cambiado();
-  if (!longitudPoza(estado_, parametros_)) dialogos_.fallo("El proyecto no indica un tipo de tanque de la tabla (1 a 6)");
+  if (!longitudPoza(estado_, parametros_))
+    dialogos_.fallo("El proyecto no indica un tipo de tanque de la tabla (1 a 6)");
 }
 
 void VentanaTanques::vaciarTabla() {
