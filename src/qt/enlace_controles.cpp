@@ -64,6 +64,16 @@ void escribirTexto(const TextBox& campo, QLineEdit& linea, NumeroTecleado* numer
   linea.setCursorPosition(std::min(cursor, static_cast<int>(linea.text().size())));
 }
 
+/// The accessible name of the field that goes with the label follows its caption.
+void rotular(QLabel& etiqueta, const QString& rotulo) {
+  const auto sinDosPuntos = [](QString s) { return s.endsWith(u':') ? s.chopped(1) : s; };
+  const QString antes = etiqueta.text();
+  if (antes == rotulo) return;
+  etiqueta.setText(rotulo);
+  if (QWidget* campo = etiqueta.buddy(); campo != nullptr && !antes.isEmpty() && !rotulo.isEmpty())
+    campo->setAccessibleName(campo->accessibleName().replace(sinDosPuntos(antes), sinDosPuntos(rotulo)));
+}
+
 }  // namespace
 
 template <class W>
@@ -149,7 +159,7 @@ Enlace::Refresco Enlace::unirRotulo(Label& rotulo) {
   etiqueta->setTextFormat(Qt::PlainText);
   return [&rotulo, etiqueta, comun = comunes(rotulo, *etiqueta)] {
     comun();
-    etiqueta->setText(aQt(rotulo.Caption.valor()));
+    rotular(*etiqueta, aQt(rotulo.Caption.valor()));
   };
 }
 

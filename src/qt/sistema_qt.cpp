@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEvent>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -39,6 +40,16 @@ class Diferida : public QObject {
 QPoint centrado(const QRect& lugar, const QSize& tamano) {
   return lugar.topLeft() +
          QPoint(std::max(0, (lugar.width() - tamano.width()) / 2), std::max(0, (lugar.height() - tamano.height()) / 2));
+}
+
+/// The typing starts in the first field of the tab order.
+void enfocarPrimero(QMainWindow& vista) {
+  QWidget* w = vista.nextInFocusChain();
+  for (; w != nullptr && w != &vista; w = w->nextInFocusChain())
+    if (qobject_cast<QLineEdit*>(w) != nullptr && w->isEnabled() && w->isVisibleTo(&vista)) {
+      w->setFocus(Qt::TabFocusReason);
+      return;
+    }
 }
 
 }  // namespace
@@ -120,7 +131,8 @@ void SistemaQt::colocarSuelta(QMainWindow& vista) {
 
 void SistemaQt::presentar(Ventana& ventana) {
   Abierta* abierta = buscar(ventana);
-  if (abierta == nullptr) abierta = &crear(ventana);
+  const bool nueva = abierta == nullptr;
+  if (nueva) abierta = &crear(ventana);
   QWidget* marco = abierta->marco;
   abierta->vista->show();
   marco->isMinimized() ? marco->showNormal() : marco->show();
@@ -129,6 +141,7 @@ void SistemaQt::presentar(Ventana& ventana) {
     area_->setActiveSubWindow(hija);
   else
     marco->activateWindow();
+  if (nueva) enfocarPrimero(*abierta->vista);
 }
 
 void SistemaQt::ocultar(Ventana& ventana) {
@@ -144,6 +157,7 @@ void SistemaQt::cerrar(Ventana& ventana) {
   marco->removeEventFilter(this);
   marco->hide();
   marco->deleteLater();
+  if (principal_ && marco->isWindow()) principal_->activateWindow();
 }
 
 void SistemaQt::terminar() { QCoreApplication::exit(0); }

@@ -17,7 +17,7 @@ struct Texto {
 };
 
 /// Texts of Qt that this program can bring on the screen.
-constexpr std::array<Texto, 30> textos = {{
+constexpr std::array<Texto, 31> textos = {{
     {"OK", u"Aceptar"},
     {"&OK", u"&Aceptar"},
     {"Cancel", u"Cancelar"},
@@ -48,6 +48,7 @@ constexpr std::array<Texto, 30> textos = {{
     {"Look in:", u"Buscar en:"},
     {"File &name:", u"&Nombre de archivo:"},
     {"Files of type:", u"Tipo:"},
+    {"Ctrl", u"Ctrl"},  // what stands on the key
 }};
 
 class TextosPropios : public QTranslator {

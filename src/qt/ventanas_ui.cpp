@@ -5,6 +5,7 @@
 
 #include <QMainWindow>
 
+#include "ui_Form10.h"
 #include "ui_Form14.h"
 #include "ui_Form15.h"
 #include "ui_Form2.h"
@@ -24,6 +25,7 @@ constexpr std::array ventanas_ui = {
     VentanaUi{"frmMain", Puesto::principal, construir<Ui::frmMain>},
     VentanaUi{"frmAbout", Puesto::suelta, construir<Ui::frmAbout>},
     VentanaUi{"Form2", Puesto::hija, construir<Ui::Form2>},
+    VentanaUi{"Form10", Puesto::hija, construir<Ui::Form10>},
     VentanaUi{"Form14", Puesto::hija, construir<Ui::Form14>},
     VentanaUi{"Form15", Puesto::hija, construir<Ui::Form15>},
 };
