@@ -22,6 +22,7 @@ namespace calvento {
 namespace {
 
 constexpr QSize tamanoMayor{1600, 1000};  ///< the main window needs no more on a large screen
+constexpr QSize marcoEscritorio{10, 38};  ///< what a desktop puts around a window, borders and title
 
 /// Qt deletes an object "later" only in the event loop it was told in or outside of it, never in one that was opened
 /// since: just when an event has really ended.
@@ -107,18 +108,21 @@ void SistemaQt::colocarPrincipal(QMainWindow& vista) {
   principal_ = &vista;
   area_ = vista.findChild<QMdiArea*>();
   const QRect pantalla = vista.screen()->availableGeometry();
-  const QSize tamano = QSize(pantalla.width() * 94 / 100, pantalla.height() * 92 / 100).boundedTo(tamanoMayor);
+  const QSize tamano = (pantalla.size() - marcoEscritorio).boundedTo(tamanoMayor);
   vista.resize(tamano);
   vista.move(centrado(pantalla, tamano));
 }
 
-/// A child keeps the size of its design and stands in the middle of the area; where it is larger the area scrolls.
+/// A child has the size of its design, or what the area offers as long as nothing of it is lost, and stands in the
+/// middle; where its least size is larger the area scrolls.
 QWidget* SistemaQt::colocarHija(QMainWindow& vista) {
-  const QSize diseno = vista.size().expandedTo(vista.minimumSizeHint());
   if (area_ == nullptr) return &vista;
+  const QSize diseno = vista.size();
   QMdiSubWindow* marco = area_->addSubWindow(&vista);
   marco->setWindowIcon(vista.windowIcon());
-  marco->resize(diseno + (marco->size() - marco->contentsRect().size()));
+  const QMargins orla = marco->contentsMargins();
+  const QSize deseado = diseno.grownBy(orla).boundedTo(area_->viewport()->size());
+  marco->resize(deseado.expandedTo(vista.minimumSizeHint().expandedTo(vista.minimumSize()).grownBy(orla)));
   marco->move(centrado(area_->viewport()->rect(), marco->size()));
   return marco;
 }
