@@ -1,0 +1,65 @@
+#include "dibujo/cotas.h"
+
+#include <cmath>
+
+#include "comun/real.h"
+#include "dibujo/rotulos.h"
+
+namespace calvento {
+
+namespace {
+
+constexpr double grados(double g) { return g * piCorto / 180; }
+/// Extension ticks and dimension line lie so far under the base of a chain, m.
+constexpr double inicioMarca = 0.25;
+constexpr double finMarca = 0.5;
+constexpr double nivelCadena = 0.4;
+
+}  // namespace
+
+void polilinea(Lienzo& lienzo, std::span<const Punto> puntos, Color color) {
+  if (puntos.size() < 2) return;
+  lienzo.Line(puntos[0], puntos[1], color);
+  for (const Punto& p : puntos.subspan(2)) lienzo.LineA(p, color);
+}
+
+void flechaHorizontal(Lienzo& lienzo, Punto p, int sentido, double largo) {
+  const double abertura = largo * std::tan(grados(30));
+  for (const int lado : {1, -1}) lienzo.Line(p, {p.x + sentido * largo, p.y + lado * abertura});
+}
+
+void flechaVertical(Lienzo& lienzo, Punto p, int sentido, double largo) {
+  const double abertura = largo * std::tan(grados(30));
+  for (const int lado : {1, -1}) lienzo.Line(p, {p.x + lado * abertura, p.y + sentido * largo});
+}
+
+void cadenaCotas(Lienzo& lienzo, const CadenaCotas& cadena) {
+  const double nivel = cadena.base - nivelCadena;
+  for (const double x : cadena.marcas) lienzo.Line({x, cadena.base - inicioMarca}, {x, cadena.base - finMarca});
+  lienzo.Line({cadena.desde, nivel}, {cadena.hasta, nivel});
+  flechaHorizontal(lienzo, {cadena.desde, nivel}, 1);
+  for (const double x : cadena.dobles)
+    for (const int sentido : {-1, 1}) flechaHorizontal(lienzo, {x, nivel}, sentido);
+  flechaHorizontal(lienzo, {cadena.hasta, nivel}, -1);
+}
+
+void cotaVertical(Lienzo& lienzo, double x, double abajo, double arriba) {
+  const double medio = (abajo + arriba) / 2;
+  const double hueco = alto(2000);
+  lienzo.Line({x, abajo}, {x, medio - hueco});
+  lienzo.Line({x, medio + hueco}, {x, arriba});
+  flechasVerticales(lienzo, x, abajo, arriba);
+}
+
+void flechasVerticales(Lienzo& lienzo, double x, double abajo, double arriba) {
+  flechaVertical(lienzo, {x, abajo}, 1);
+  flechaVertical(lienzo, {x, arriba}, -1);
+}
+
+void flechaGuia(Lienzo& lienzo, Punto p, double fi) {
+  const double largo = -largoFlecha / std::cos(grados(30));
+  lienzo.Line(p, {p.x + largo * std::sin(grados(60 - fi)), p.y + largo * std::cos(grados(60 - fi))});
+  lienzo.Line(p, {p.x + largo * std::cos(grados(fi - 30)), p.y + largo * std::sin(grados(fi - 30))});
+}
+
+}  // namespace calvento

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "dibujo/trazo.h"
+#include "dibujo/valores.h"
+
+// What the figures of the structures with a curve, an entrance ramp and a basin have in common, in world metres.
+
+namespace calvento {
+
+/// Metres of canal drawn before and behind the structure.
+inline constexpr double canalDibujado = 5;
+/// Thickness of the lining of canal and chute, square to the slope, m.
+inline constexpr double espesorRevestimiento = 0.1;
+/// Depth of the cut-offs at the toe of the chute and at the outlet, m.
+inline constexpr double profDentellon = 0.25;
+/// Pieces in which a curve is drawn.
+inline constexpr int trozosCurva = 10;
+
+/// Vertical thickness of a lining that lies on a slope.
+double espesorVertical(double pendiente);
+
+/// Stations behind the curve into the basin, m.
+struct EstacionesPoza {
+  double xPT;      ///< end of the curve, point of tangency
+  double lRampaE;  ///< length of the entrance ramp
+  double xPoza0;   ///< upstream end of the basin floor
+  double xPoza1;   ///< downstream end of the basin floor
+  double lRampaS;  ///< length of the exit ramp
+  double xPoza2;   ///< top of the exit ramp
+  double xTrans;   ///< end of the outlet transition
+  double xSalida;  ///< end of the drawn downstream canal
+};
+EstacionesPoza estacionesPoza(const Valores& v, double xPT);
+
+/// Bed of the downstream canal at a distance behind the top of the exit ramp.
+double fondoAbajo(const Valores& v, double distancia);
+
+/// Elevation of the energy line at the toe of the jump. The tenth taken off the velocity head is meant.
+double energiaPieResalto(const Valores& v);
+
+/// Water from the toe of the jump to the end of the figure and back along the bed to the end of the curve: 23 points.
+void trazarAguaPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p);
+
+/// Upper side of the concrete from the end of the outlet transition back to the end of the curve: 5 points.
+void trazarPisoPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p);
+
+/// Underside of the concrete from the foot of the entrance ramp to the end of the outlet transition, with the corners
+/// on the bisectors and the end cut-off: 7 points.
+void trazarBajoPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p);
+
+/// Lining of the downstream canal that begins at xTrans, closed: 5 points.
+std::vector<Punto> revestimientoAbajo(const Valores& v, const EstacionesPoza& p);
+
+/// Energy line from the toe of the jump to the end of the figure: 5 points.
+void trazarEnergiaPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p);
+
+/// Half a width at a station of the plan.
+struct AnchoEn {
+  double x;
+  double medio;
+};
+/// Water of the plan about its axis, closed: two points for each station and one.
+std::vector<Punto> aguaPlanta(std::span<const AnchoEn> anchos, double eje);
+/// One wall of the plan, closed: lado is -1 for the lower one, 1 for the upper one.
+std::vector<Punto> muroPlanta(std::span<const AnchoEn> anchos, double eje, int lado);
+/// Lines across the plan, each from side to side.
+std::vector<Segmento> lineasTransversales(std::span<const AnchoEn> anchos, double eje);
+/// An edge of the bed in plan: lado as in muroPlanta.
+std::vector<Punto> bordeFondo(std::span<const AnchoEn> anchos, double eje, int lado);
+
+/// Half width of the bed in plan at the end of the curve, which widens evenly from bEntrada to bPoza over curve and
+/// ramp.
+double medioAnchoPT(const Valores& v, const EstacionesPoza& p, double bEntrada, double bPoza);
+/// Hatch of both ramps in plan; medioPT is the half width at the end of the curve.
+std::vector<Segmento> rayadoRampas(const EstacionesPoza& p, double eje, double medioPT, double bPoza);
+
+}  // namespace calvento
