@@ -17,12 +17,6 @@ constexpr double nivelCadena = 0.4;
 
 }  // namespace
 
-void polilinea(Lienzo& lienzo, std::span<const Punto> puntos, Color color) {
-  if (puntos.size() < 2) return;
-  lienzo.Line(puntos[0], puntos[1], color);
-  for (const Punto& p : puntos.subspan(2)) lienzo.LineA(p, color);
-}
-
 void flechaHorizontal(Lienzo& lienzo, Punto p, int sentido, double largo) {
   const double abertura = largo * std::tan(grados(30));
   for (const int lado : {1, -1}) lienzo.Line(p, {p.x + sentido * largo, p.y + lado * abertura});

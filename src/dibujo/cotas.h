@@ -1,6 +1,5 @@
 #pragma once
 
-#include <span>
 #include <vector>
 
 #include "plataforma/lienzo.h"
@@ -8,9 +7,6 @@
 // The dimension lines of the figures, drawn in ForeColor. Lengths in world metres.
 
 namespace calvento {
-
-/// Draws a connected line through all points.
-void polilinea(Lienzo& lienzo, std::span<const Punto> puntos, Color color);
 
 /// Length of an arrow head along its dimension line, m.
 inline constexpr double largoFlecha = 0.05;

@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "dibujo/cotas.h"
-
 // The areas and lines of the chute's sheet.
 
 namespace calvento {
@@ -59,12 +57,12 @@ void FiguraRapida::DIBUJACANAL(Lienzo& lienzo) const {
     for (const auto& s : segmentos) lienzo.Line(s.a, s.b, color::grisMedio);
   };
   lienzo.DrawStyle = EstiloLinea::solida;
-  polilinea(lienzo, g.corona(), color::rojo);
+  lienzo.Polyline(g.corona(), color::rojo);
   lineas(rayadoRampas(g.estaciones(), ejePlanta_, g.medioAnchoTrayectoria(), g.valores().bPoza));
   lienzo.DrawStyle = EstiloLinea::guionPunto;
   lineas(lineasTransversales(g.anchosTransversales(), ejePlanta_));
-  for (const auto& borde : g.bordesFondo(ejePlanta_)) polilinea(lienzo, borde, color::grisMedio);
-  polilinea(lienzo, g.energia(), color::grisMedio);
+  for (const auto& borde : g.bordesFondo(ejePlanta_)) lienzo.Polyline(borde, color::grisMedio);
+  lienzo.Polyline(g.energia(), color::grisMedio);
   lienzo.DrawStyle = EstiloLinea::solida;
 }
 

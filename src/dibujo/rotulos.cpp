@@ -10,14 +10,10 @@ namespace calvento {
 
 namespace {
 
-/// Height of the drawing's canvas at its first size, pixels: the sizes of the fonts are told for it.
-constexpr double altoPrimero = 433;
 constexpr double alturaDerecha = 40;  ///< points of an upright text on a canvas one metre high
-constexpr double alturaGirada = 55;   ///< units of a rotated font on a canvas one metre high
+constexpr double alturaGirada = 55;   ///< pixels of a line of rotated text on a canvas one metre high
 constexpr double menorDerecha = 0.001;
 constexpr double menorGirada = 0.55;
-
-double ampliacion(const Lienzo& lienzo) { return lienzo.altoPixeles() / altoPrimero; }
 
 }  // namespace
 
@@ -25,15 +21,13 @@ std::string redondeado(Single valor) { return texto(Round(valor, 3)); }
 std::string redondeado(double valor) { return texto(Round(Real(valor), 3)); }
 
 void letraDerecha(Lienzo& lienzo) {
-  const double puntos =
-      std::max(entre(alturaDerecha, std::fabs(lienzo.ScaleHeight())), menorDerecha) * ampliacion(lienzo);
+  const double puntos = std::max(entre(alturaDerecha, std::fabs(lienzo.ScaleHeight())), menorDerecha);
   lienzo.Font = {"Arial", std::isfinite(puntos) ? puntos : lienzo.Font.puntos};
 }
 
 Letra letraGirada(const Lienzo& lienzo) {
   const double altura = std::nearbyint(std::max(entre(alturaGirada, std::fabs(lienzo.ScaleHeight())), menorGirada));
-  const double puntos = altura * alturaDerecha / alturaGirada * ampliacion(lienzo);
-  return {"Arial", std::isfinite(puntos) ? puntos : lienzo.Font.puntos};
+  return {"Arial", std::isfinite(altura) ? puntosDeCelda(altura) : lienzo.Font.puntos};
 }
 
 double giroBaja(double pendiente) { return std::nearbyint((360 - std::atan(pendiente) * 180 / piCorto) * 10); }

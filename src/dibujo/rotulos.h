@@ -24,8 +24,8 @@ std::string redondeado(double valor);
 /// Makes the upright font of the figures current: its height is one of the world, so that texts grow when one zooms
 /// in. A canvas without height keeps the size it has.
 void letraDerecha(Lienzo& lienzo);
-/// The font of rotated labels, of like size but with the whole height that a rotated font is made with on a canvas of
-/// the first size. Its angle is set label by label.
+/// The font of rotated labels, of like size; its line height is a whole number of pixels at the canvas's reference
+/// height. Its angle is set label by label.
 Letra letraGirada(const Lienzo& lienzo);
 
 /// Angles of rotated labels in whole tenths of a degree, counter-clockwise.

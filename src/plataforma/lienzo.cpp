@@ -11,8 +11,6 @@ namespace {
 bool utilizable(double v) { return std::isfinite(v); }
 bool utilizable(Punto p) { return utilizable(p.x) && utilizable(p.y); }
 
-/// Gives each point that lacks the coordinate the one of the point before it; the points before the first usable one
-/// take that one's. False where no point has it.
 bool completar(std::vector<Punto>& puntos, double Punto::*coordenada) {
   const auto primero =
       std::find_if(puntos.begin(), puntos.end(), [&](const Punto& p) { return utilizable(p.*coordenada); });
@@ -26,6 +24,8 @@ bool completar(std::vector<Punto>& puntos, double Punto::*coordenada) {
 }
 
 }  // namespace
+
+bool completar(std::vector<Punto>& puntos) { return completar(puntos, &Punto::x) && completar(puntos, &Punto::y); }
 
 void Lienzo::redimensionar(int anchoPixeles, int altoPixeles) {
   anchoPixeles_ = anchoPixeles;
@@ -92,7 +92,7 @@ void Lienzo::Circle(Punto centro, double radio) {
 }
 
 void Lienzo::Polygon(std::vector<Punto> puntos) {
-  if (!completar(puntos, &Punto::x) || !completar(puntos, &Punto::y)) return;
+  if (!completar(puntos)) return;
   anadir(PrimPoligono{std::move(puntos), pluma(ForeColor), {FillColor, FillStyle}});
 }
 

@@ -18,6 +18,13 @@ struct Punto {
   friend bool operator==(const Punto&, const Punto&) = default;
 };
 
+/// A coordinate that could not be computed: what a figure hands over in the place of a failed value.
+inline constexpr double sinValor = std::numeric_limits<double>::quiet_NaN();
+
+/// Gives each coordinate that is not a finite number the one of the point before it, and at the head the first usable
+/// one, so that an outline never changes its number of points. False where all points lack a coordinate.
+bool completar(std::vector<Punto>& puntos);
+
 /// Rectangle of world coordinates a canvas shows: top-left corner and size; a vertical axis that runs upward has a
 /// negative height.
 struct EscalaLienzo {
@@ -50,9 +57,6 @@ struct Letra {
   bool subrayada = false;
   double angulo = 0;  ///< degrees counter-clockwise
 };
-
-/// A coordinate that could not be computed: what a figure hands over in the place of a failed value.
-inline constexpr double sinValor = std::numeric_limits<double>::quiet_NaN();
 
 struct PrimLinea {
   Punto a, b;
