@@ -83,6 +83,10 @@ TEST(GeometriaRapida, ReachOfAProfileRowIsTakenFromItsNumber) {
   // few rows, the last beyond the joint: all belong to the first reach, which falls 0.1
   comparar(GeometriaRapida(e).agua(), {{5, 5, 110.1}, {6, 10, 109.45}, {7, 20, 108.3}}, "short profile");
 
+  // rows 100 and 101 at one station: the first on the fall of 0.1, the second on that of 0.4
+  e.perfil.assign(101, {5, 0.5, 0, 0, 0});
+  comparar(GeometriaRapida(e).agua(), {{4 + 100, 5, 110}, {4 + 101, 5, 111.5}}, "joint row");
+
   e.perfil.clear();
   for (int i = 1; i <= 200; ++i) e.perfil.push_back({i * 0.1, 0.5, 0, 0, 0});
   auto agua = GeometriaRapida(e).agua();
