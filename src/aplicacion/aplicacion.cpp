@@ -5,6 +5,8 @@
 
 #include "aplicacion/frm_about.h"
 #include "aplicacion/frm_main.h"
+#include "caida_inclinada/form1.h"
+#include "caida_vertical/form16.h"
 #include "comun/fallo.h"
 #include "hidraulica/form14.h"
 #include "hidraulica/form15.h"
@@ -22,6 +24,9 @@ const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
       {"Form2", [](Aplicacion& a) { return std::make_unique<Form2>(a); }},
       {"Form14", [](Aplicacion& a) { return std::make_unique<Form14>(a.estado, a.dialogos_, a); }},
       {"Form15", [](Aplicacion& a) { return std::make_unique<Form15>(a.estado, a.dialogos_, a); }},
+      {"Form1", [](Aplicacion& a) { return std::make_unique<Form1>(a.estado, a.form2(), a.dialogos_, a); }},
+      {"Form16", [](Aplicacion& a) { return std::make_unique<Form16>(a.estado, a.form25(), a.dialogos_, a); }},
+      {"Form25", [](Aplicacion& a) { return std::make_unique<Form25>(a.estado, a); }},
       {"Form10", [](Aplicacion& a) { return std::make_unique<Form10>(a.estado, a.form2(), a.dialogos_, a); }},
   };
   return ventanas;
@@ -42,6 +47,8 @@ void Aplicacion::arrancar() {
 }
 
 Form2& Aplicacion::form2() { return dynamic_cast<Form2&>(*cargar("Form2")); }
+
+Form25& Aplicacion::form25() { return dynamic_cast<Form25&>(*cargar("Form25")); }
 
 std::vector<std::string_view> Aplicacion::nombres() const {
   std::vector<std::string_view> todos;

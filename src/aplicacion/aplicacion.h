@@ -11,6 +11,7 @@
 #include "plataforma/dialogos.h"
 #include "plataforma/navegador.h"
 #include "poza/form2.h"
+#include "poza/form25.h"
 
 namespace calvento {
 
@@ -58,6 +59,7 @@ class Aplicacion : public Navegador {
   static const std::vector<Entrada>& catalogo();
 
   Form2& form2();
+  Form25& form25();
 
   Dialogos& dialogos_;
   SistemaVentanas& sistema_;

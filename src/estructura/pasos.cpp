@@ -24,6 +24,15 @@ void calcularCanalAbajo(DesignState& e) {
 
 Real nivelEnergia(Real velocidad, Real cota, Real tirante) { return velocidad * velocidad / dosG + cota + tirante; }
 
+Real energiaEspecifica(Real velocidad, Real tirante) { return velocidad * velocidad / dosG + tirante; }
+
+void avisarAncho(const DesignState& e, const AnchoPoza& ancho, Dialogos& dialogos) {
+  const Real W = ancho.entrada + 2 * e.zRampaEntrada * (e.cotaFin - e.cotaPoza) *
+                                     Sqr(1 / (e.zRampaEntrada * e.zRampaEntrada) + 1) / (3 * ancho.froude);
+  if (W > ancho.poza) return;
+  dialogos.aviso("Ancho de poza debe ser menor de: " + texto(Round(W, 3)));
+}
+
 std::string textoAhogamiento(Real razon) { return "k=  " + texto(Round(razon * 100, 2)) + "%  ;Y2=h+Yw"; }
 
 }  // namespace calvento

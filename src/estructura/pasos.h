@@ -1,8 +1,11 @@
 #pragma once
 
+#include <string>
+
 #include "comun/numeros.h"
 #include "modelo/design_state.h"
 #include "plataforma/control.h"
+#include "plataforma/dialogos.h"
 
 namespace calvento {
 
@@ -18,6 +21,18 @@ void calcularCanalAbajo(DesignState& estado);
 
 /// Energy level of a section, m: velocity head, bed elevation and depth.
 Real nivelEnergia(Real velocidad, Real cota, Real tirante);
+
+/// Specific energy of a section, m.
+Real energiaEspecifica(Real velocidad, Real tirante);
+
+/// Widths and Froude number that bound how far the jet spreads on the ramp.
+struct AnchoPoza {
+  Real entrada;  ///< width at the head of the ramp
+  Real froude;   ///< Froude number there
+  Real poza;     ///< width of the basin
+};
+/// Tells when the basin is at least as wide as the jet can spread; nothing is changed by it.
+void avisarAncho(const DesignState& estado, const AnchoPoza& ancho, Dialogos& dialogos);
 
 /// Text of a submergence ratio below the basin.
 std::string textoAhogamiento(Real razon);

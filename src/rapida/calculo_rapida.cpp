@@ -66,14 +66,6 @@ void resalto(DesignState& e, Dialogos& dialogos) {
   TIRANTESCONJUGADOS(e, {e.bPoza, e.zPoza, difEnergia}, 0.001);
 }
 
-/// Widest basin into which the jet spreads along the ramp; a wider one is told, and the calculation goes on.
-void avisarAncho(const DesignState& e, Dialogos& dialogos) {
-  const Real W = e.bRapida + 2 * e.zRampaEntrada * (e.cotaFin - e.cotaPoza) *
-                                 Sqr(1 / (e.zRampaEntrada * e.zRampaEntrada) + 1) / (3 * e.frFin);
-  if (W > e.bPoza) return;
-  dialogos.aviso("Ancho de poza debe ser menor de: " + texto(Round(W, 3)));
-}
-
 /// Parabola of the trajectory, flatter than the free jet by the factor of 1.5² on the velocity head, and its tangent
 /// with the ramp. A ramp steeper than the parabola at the floor is flattened, told in a message each time.
 void trayectoria(DesignState& e, PantallaRapida& pantalla) {
@@ -131,7 +123,7 @@ bool calcularRapida(DesignState& e, const Form2& p, PantallaRapida& pantalla) {
   finDeRapida(e, y0);
 
   resalto(e, pantalla.dialogos());
-  avisarAncho(e, pantalla.dialogos());
+  avisarAncho(e, {e.bRapida, e.frFin, e.bPoza}, pantalla.dialogos());
   trayectoria(e, pantalla);
 
   SELECCIONARTANQUE(pantalla.tablaTanques(), e, p, {e.zPoza, e.v1, "F= "});
