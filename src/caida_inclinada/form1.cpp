@@ -22,6 +22,7 @@ Form1::Form1(DesignState& estado, Form2& parametros, Dialogos& dialogos, Navegad
   mngrafico.Click = abre("Form4");
   mnst.Click = abre("Form20");
   mntanque.Click = abre("Form7");
+  mnsuper.conMarca = true;
   mnsuper.Click = [this] { mnsuper_Click(); };
   inhabilitarResultados();
   LineasSuper.Visible = false;

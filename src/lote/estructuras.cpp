@@ -4,6 +4,17 @@ namespace calvento::lote {
 
 namespace {
 
+Linea<Dato> canalArriba() {
+  return {"Canal aguas arriba", {{"b", "Text6", "m"}, {"Z", "Text7", ""}, {"n", "Text8", ""}, {"S", "Text9", "m/m"}}};
+}
+Linea<Dato> canalAbajo() {
+  return {"Canal aguas abajo",
+          {{"b", "Text16", "m"}, {"Z", "Text18", ""}, {"n", "Text19", ""}, {"S", "Text20", "m/m"}}};
+}
+Linea<Dato> elevacionesCaida() {
+  return {"Elevaciones", {{"inicio de caída", "Text2", "m"}, {"salida", "Text4", "m"}}};
+}
+
 Estructura rapida() {
   using D = DesignState;
   return {
@@ -14,12 +25,11 @@ Estructura rapida() {
       {"mngrafico", "mntabla", "mntanque", "mnst", "mntperfil", "mntrayectoria", "mnformondas"},
       {
           {"Caudal", {{"Q", "Text5", "m³/s"}}},
-          {"Canal aguas arriba", {{"b", "Text6", "m"}, {"Z", "Text7", ""}, {"n", "Text8", ""}, {"S", "Text9", "m/m"}}},
+          canalArriba(),
           {"Canal de la rápida",
            {{"b", "Text10", "m"}, {"Z", "Text11", ""}, {"n", "Text12", ""}, {"tramos", "Text17", ""}}},
           {"Pendientes de los tramos", {{"S1", "Text13", "m/m"}, {"S2", "Text15", "m/m"}, {"S3", "Text14", "m/m"}}},
-          {"Canal aguas abajo",
-           {{"b", "Text16", "m"}, {"Z", "Text18", ""}, {"n", "Text19", ""}, {"S", "Text20", "m/m"}}},
+          canalAbajo(),
           {"Poza", {{"B", "Text23", "m"}, {"Z", "Text24", ""}, {"ahogamiento", "Text26", "%"}}},
           {"Taludes de las rampas", {{"Z1", "Text21", ""}, {"Z2", "Text22", ""}}},
           {"Progresiva de inicio", {{"", "Text25", "m"}}},
@@ -54,10 +64,91 @@ Estructura rapida() {
       }};
 }
 
+Estructura caidaInclinada() {
+  using D = DesignState;
+  return {
+      "caida_inclinada",
+      &formatoCaidaInclinada,
+      {"Label27", "Label29", "Label41"},
+      {"Label41", "Label29"},
+      {"mngrafico", "mnst", "mntabla", "mntanque"},
+      {
+          {"Caudal", {{"Q", "Text5", "m³/s"}}},
+          canalArriba(),
+          canalAbajo(),
+          {"Poza", {{"B", "Text23", "m"}, {"Z", "Text24", ""}, {"ahogamiento", "Text3", "%"}}},
+          {"Taludes de las rampas", {{"Z1", "Text21", ""}, {"Z2", "Text22", ""}}},
+          {"Progresiva de inicio", {{"", "Text25", "m"}}},
+          elevacionesCaida(),
+      },
+      {
+          {"Canal aguas arriba",
+           {{"Yn", &D::ynArriba, "m"}, {"V", &D::vArriba, "m/s"}, {"F", &D::frArriba, ""}, {"H", &D::hArriba, "m", 2}}},
+          {"Cresta",
+           {{"Y", &D::yFin, "m"},
+            {"V", &D::vFin, "m/s"},
+            {"sobre elevación", &D::sobreelevacion, "m"},
+            {"L", &D::longControl, "m", 2},
+            {"elevación", &D::cotaFin, "m"}}},
+          {"Curva", {{"R", &D::radioCurva, "m", 2}, {"L", &D::xTrayectoria, "m"}, {"fin", &D::cotaTrayectoria, "m"}}},
+          {"Inicio del resalto", {{"Y1", &D::y1, "m"}, {"V1", &D::v1, "m/s"}, {"F1", &D::fr1, ""}}},
+          {"Fin del resalto", {{"Y2", &D::y2, "m"}, {"V2", &D::v2, "m/s"}}},
+          {"Poza",
+           {{"elevación", &D::cotaPoza, "m"},
+            {"profundidad", &D::profPoza, "m", 2},
+            {"longitud", &D::longPoza, "m", 2},
+            {"H", &D::hPoza, "m", 2}}},
+          {"Canal aguas abajo",
+           {{"elevación", &D::cotaAbajo, "m"},
+            {"Yn", &D::ynAbajo, "m"},
+            {"V", &D::vAbajo, "m/s"},
+            {"H", &D::hAbajo, "m", 2}}},
+          {"Transiciones", {{"entrada", &D::longTransEntrada, "m", 2}, {"salida", &D::longTransSalida, "m", 2}}},
+      }};
+}
+
+Estructura caidaVertical() {
+  using D = DesignState;
+  return {
+      "caida_vertical",
+      &formatoCaidaVertical,
+      {"Label41", "Label48"},
+      {"Label41"},
+      {"mngrafico", "mnseccion", "mntanque"},
+      {
+          {"Caudal", {{"Q", "Text5", "m³/s"}}},
+          canalArriba(),
+          canalAbajo(),
+          {"Poza", {{"B", "Text23", "m"}, {"Z2", "Text22", ""}}},
+          {"Progresiva de inicio", {{"", "Text25", "m"}}},
+          elevacionesCaida(),
+      },
+      {
+          {"Canal aguas arriba",
+           {{"Yn", &D::ynArriba, "m"}, {"V", &D::vArriba, "m/s"}, {"F", &D::frArriba, ""}, {"H", &D::hArriba, "m", 2}}},
+          {"Cresta",
+           {{"Yc", &D::yFin, "m"},
+            {"V", &D::vFin, "m/s"},
+            {"sobre elevación", &D::sobreelevacion, "m"},
+            {"L", &D::longControl, "m", 2}}},
+          {"Caída", {{"tirante al pie", &D::yVert94, "m"}, {"longitud total", &D::longRapida, "m"}}},
+          {"Inicio del resalto", {{"Y1", &D::y1, "m"}}},
+          {"Fin del resalto", {{"Y2", &D::y2, "m"}, {"V2", &D::v2, "m/s"}}},
+          {"Poza",
+           {{"elevación", &D::cotaPoza, "m"}, {"profundidad", &D::profPoza, "m", 2}, {"longitud", &D::longPoza, "m"}}},
+          {"Canal aguas abajo", {{"Yn", &D::ynAbajo, "m"}, {"H", &D::hAbajo, "m", 2}}},
+          {"Transiciones", {{"entrada", &D::longTransEntrada, "m", 2}, {"salida", &D::longTransSalida, "m", 2}}},
+          {"Ventilación",
+           {{"contracción lateral", &D::longTransVert, "m", 2, true},
+            {"tubos", &D::numTubos, "", 0},
+            {"diámetro", &D::diamTubo, "m", 4}}},
+      }};
+}
+
 }  // namespace
 
 std::span<const Estructura> estructuras() {
-  static const std::vector<Estructura> todas = {rapida()};
+  static const std::vector<Estructura> todas = {rapida(), caidaInclinada(), caidaVertical()};
   return todas;
 }
 
