@@ -1,6 +1,7 @@
 // How each kind of control is joined to its widget.
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 #include <QAction>
 #include <QCheckBox>
@@ -102,18 +103,23 @@ Enlace::Refresco Enlace::comunes(Control& control, QWidget& widget) {
   controlDe_.insert(&widget, &control);
   widget.installEventFilter(this);
   if (control.MouseMove) widget.setMouseTracking(true);
-  // the palette is written only when a colour has changed: it repaints everything
-  return [&control, w = &widget, fondo = color::ventana, texto = color::textoBoton,
-          paleta = widget.parentWidget()->palette().cacheKey()]() mutable {
+  // the palette is written only when a colour has changed: it repaints everything. What was painted last is shared by
+  // all copies of the function.
+  struct Pintado {
+    Color fondo = color::ventana;
+    Color texto = color::textoBoton;
+    qint64 paleta = 0;
+  };
+  auto ultimo = std::make_shared<Pintado>();
+  ultimo->paleta = widget.parentWidget()->palette().cacheKey();
+  return [&control, w = &widget, ultimo] {
     w->setEnabled(control.Enabled);
     if (w->isHidden() == control.Visible) w->setVisible(control.Visible);
     if (!vacio(control.ToolTipText)) w->setToolTip(aQt(control.ToolTipText.valor()));
     const auto actual = w->parentWidget()->palette().cacheKey();
-    if (fondo == control.BackColor && texto == control.ForeColor && paleta == actual) return;
-    fondo = control.BackColor;
-    texto = control.ForeColor;
-    paleta = actual;
-    aplicarColores(*w, fondo, texto);
+    if (ultimo->fondo == control.BackColor && ultimo->texto == control.ForeColor && ultimo->paleta == actual) return;
+    *ultimo = {control.BackColor, control.ForeColor, actual};
+    aplicarColores(*w, ultimo->fondo, ultimo->texto);
   };
 }
 

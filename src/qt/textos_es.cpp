@@ -55,8 +55,9 @@ class TextosPropios : public QTranslator {
  public:
   using QTranslator::QTranslator;
   bool isEmpty() const override { return false; }
-  QString translate(const char* /*contexto*/, const char* original, const char* /*distincion*/,
-                    int /*n*/) const override {
+  QString translate(const char* contexto, const char* original, const char* /*distincion*/, int /*n*/) const override {
+    // only Qt's own classes: the captions of the program's windows are Spanish already
+    if (contexto == nullptr || contexto[0] != 'Q') return {};
     for (const Texto& t : textos)
       if (std::strcmp(t.original, original) == 0) return QString::fromUtf16(t.espanol);
     return {};
