@@ -4,10 +4,6 @@
 
 namespace calvento {
 
-/// A text as typed or pasted by the user with the point as its decimal sign. "2,5" gives "2.5"; in a number with
-/// thousands separators ("1.234,56", "1,234.56") these are dropped.
-QString conPuntoDecimal(const QString& texto);
-
 /// Turns the decimal comma of a number field into a point while the user types or pastes, before the field tells of the
 /// change. It rejects nothing. Texts that the program writes pass as they are: see Pausa.
 class NumeroTecleado : public QValidator {

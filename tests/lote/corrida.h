@@ -1,12 +1,13 @@
 #pragma once
 
-#include <filesystem>
-#include <fstream>
+#include <algorithm>
 #include <nlohmann/json.hpp>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "apoyo/carpeta_prueba.h"
 #include "lote/programa.h"
 #include "modelo/archivo_proyecto.h"
 
@@ -35,30 +36,6 @@ inline Corrida correr(const std::vector<std::string>& argumentos) {
   const int estado = ejecutar(static_cast<int>(argv.size()), argv.data(), salida, errores);
   return {estado, salida.str(), errores.str()};
 }
-
-/// A folder that goes with the test.
-class Carpeta {
- public:
-  Carpeta() {
-    std::string patron = (std::filesystem::temp_directory_path() / "calvento-lote-XXXXXX").string();
-    if (mkdtemp(patron.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    ruta_ = patron;
-  }
-  Carpeta(const Carpeta&) = delete;
-  Carpeta& operator=(const Carpeta&) = delete;
-  ~Carpeta() {
-    std::error_code ignorado;
-    std::filesystem::remove_all(ruta_, ignorado);
-  }
-  std::string en(const std::string& nombre) const { return (ruta_ / nombre).string(); }
-  std::string escribir(const std::string& nombre, const std::string& contenido) const {
-    std::ofstream(ruta_ / nombre, std::ios::binary) << contenido;
-    return en(nombre);
-  }
-
- private:
-  std::filesystem::path ruta_;
-};
 
 /// A chute project whose lines are named; it starts as a lateral canal's chute of one reach that calculates without a
 /// word.

@@ -9,7 +9,7 @@ namespace {
 
 class Archivos : public testing::Test {
  protected:
-  const Carpeta carpeta;
+  const CarpetaPrueba carpeta;
   const std::string canal = carpeta.escribir("canal.cvr", ProyectoRapida().contenido());
 };
 

@@ -155,7 +155,7 @@ class ProyectosAlAzar : public testing::TestWithParam<Clase> {};
 TEST_P(ProyectosAlAzar, EndInTimeCalculatedOrWithAMessage) {
   const Clase& clase = GetParam();
   const int n = std::max(1, static_cast<int>(cuantos() * clase.fraccion));
-  const Carpeta carpeta;
+  const CarpetaPrueba carpeta;
   int calculados = 0;
   double peor = 0;
   for (int i = 0; i < n; ++i) {

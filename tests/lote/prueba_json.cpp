@@ -80,7 +80,7 @@ std::vector<std::string> claves(const nlohmann::ordered_json& objeto) {
 
 class ObjetoJson : public testing::Test {
  protected:
-  const Carpeta carpeta;
+  const CarpetaPrueba carpeta;
 };
 
 TEST_F(ObjetoJson, HasItsPartsInTheirOrder) {

@@ -7,7 +7,7 @@ namespace {
 
 class Opciones : public testing::Test {
  protected:
-  const Carpeta carpeta;
+  const CarpetaPrueba carpeta;
   const std::string canal = carpeta.escribir("canal.cvr", ProyectoRapida().contenido());
   /// Side slope of the chute not 0: the inlet transition changes with every press, since it uses the former wall.
   const std::string inclinado = carpeta.escribir("inclinado.cvr", ProyectoRapida().poner("Text11", "0.5").contenido());
@@ -76,11 +76,8 @@ TEST_F(Opciones, HelpIsSpanishAndOnStandardOutput) {
 }
 
 TEST_F(Opciones, AFileWhoseNameBeginsWithADashStandsAfterTwoDashes) {
-  const std::string nombre = carpeta.escribir("-raro.cvr", ProyectoRapida().contenido());
-  const auto antes = std::filesystem::current_path();
-  std::filesystem::current_path(carpeta.en(""));
+  carpeta.escribir("-raro.cvr", ProyectoRapida().contenido());
   EXPECT_EQ(correr({"--json", "--", "-raro.cvr"}).estado, 0);
-  std::filesystem::current_path(antes);
 }
 
 TEST_F(Opciones, ParameterFieldsGoInBeforeTheFileIsOpened) {
