@@ -115,7 +115,8 @@ std::string comoResumen(const Sesion& sesion) {
   std::string raya;
   for (std::size_t i = 0; i < ancho(titulo); ++i) raya += "═";
   std::string s = titulo + "\n" + raya + "\n";
-  if (sesion.ventana() != nullptr) {
+  // of a project that was not read there is nothing to show but why
+  if (sesion.ventana() != nullptr && !sesion.estado().esNuevo) {
     s += sesion.ventana()->Caption.valor() + "\n";
     s += datos(sesion) + resultados(sesion) + tablaTanques(sesion);
   }

@@ -119,7 +119,9 @@ TEST_F(Archivos, WorkGoesToStandardOutputAndTroubleToStandardError) {
 
   const Corrida mal = correr({carpeta.en("no-esta.cvr"), canal});
   EXPECT_NE(mal.salida.find("no-esta.cvr (no calculado)"), std::string::npos);
-  EXPECT_NE(mal.salida.find("El cálculo no llegó a su fin"), std::string::npos);
+  EXPECT_EQ(mal.salida.find("DATOS"), mal.salida.rfind("DATOS")) << "an empty design was printed";
+  const std::string lento = carpeta.escribir("lento.cvr", ProyectoRapida().poner("Text13", "0.0001").contenido());
+  EXPECT_NE(correr({lento}).salida.find("El cálculo no llegó a su fin"), std::string::npos);
   EXPECT_EQ(mal.errores.find("canal.cvr: aviso"), std::string::npos);
 }
 
