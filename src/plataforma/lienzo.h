@@ -115,11 +115,11 @@ class Lienzo : public EstadoPluma {
       : anchoPixeles_(anchoPixeles), altoPixeles_(altoPixeles), altoReferencia_(altoPixeles) {}
   int anchoPixeles() const { return anchoPixeles_; }
   int altoPixeles() const { return altoPixeles_; }
-  /// Gives the picture another size. Its texts, line widths and hatches grow with its height.
+  /// Gives the picture another size. Its texts grow with its height; lines and hatches keep their pixels.
   void redimensionar(int anchoPixeles, int altoPixeles);
-  /// The height in pixels at which a point of text is a point and a pixel of line width a pixel.
+  /// The height in pixels at which a point of text is a point.
   int altoReferencia() const { return altoReferencia_; }
-  /// Another size at which texts and lines keep theirs, as those of a ruler do.
+  /// Another size at which texts keep theirs, as those of a ruler do.
   void redimensionarSinCrecer(int anchoPixeles, int altoPixeles);
 
   /// Top-left corner (x1, y1), bottom-right corner (x2, y2).

@@ -31,19 +31,6 @@ void callarCarpetas(QtMsgType tipo, const QMessageLogContext& contexto, const QS
   std::fputs(qPrintable(qFormatLogMessage(tipo, contexto, texto) + '\n'), stderr);
 }
 
-/// Fonts need an application object, which then stays until the program ends.
-void asegurarAplicacion() {
-  if (QCoreApplication::instance() != nullptr) return;
-  static char nombre[] = "calvento";
-  static char opcion[] = "-platform";
-  static char valor[] = "offscreen";
-  static char* argumentos[] = {nombre, opcion, valor, nullptr};
-  static int cuantos = 3;
-  const QtMessageHandler antes = qInstallMessageHandler(callarCarpetas);
-  static QGuiApplication aplicacion(cuantos, argumentos);
-  qInstallMessageHandler(antes);
-}
-
 void comoSvg(const Lienzo& lienzo, QIODevice& salida) {
   const QRect hoja(0, 0, lienzo.anchoPixeles(), lienzo.altoPixeles());
   QSvgGenerator generador;
@@ -81,13 +68,25 @@ bool comoPng(const Lienzo& lienzo, QIODevice& salida) {
 
 }  // namespace
 
+void asegurarAplicacionGrafica() {
+  if (QCoreApplication::instance() != nullptr) return;
+  static char nombre[] = "calvento";
+  static char opcion[] = "-platform";
+  static char valor[] = "offscreen";
+  static char* argumentos[] = {nombre, opcion, valor, nullptr};
+  static int cuantos = 3;
+  const QtMessageHandler antes = qInstallMessageHandler(callarCarpetas);
+  static QGuiApplication aplicacion(cuantos, argumentos);
+  qInstallMessageHandler(antes);
+}
+
 void exportarDibujo(const Lienzo& lienzo, const std::string& archivo) {
   const QString nombre = aQt(archivo);
   const QString extension = QFileInfo(nombre).suffix().toLower();
   if (extension != "svg" && extension != "pdf" && extension != "png")
     throw std::runtime_error("El dibujo se escribe como .svg, .pdf o .png: " + archivo);
   if (lienzo.anchoPixeles() <= 0 || lienzo.altoPixeles() <= 0) throw std::runtime_error("El dibujo no tiene tamaño");
-  asegurarAplicacion();
+  asegurarAplicacionGrafica();
 
   QByteArray datos;
   QBuffer memoria(&datos);

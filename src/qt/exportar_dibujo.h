@@ -12,4 +12,8 @@ namespace calvento {
 /// Throws std::runtime_error with a Spanish text for an unknown extension and for a file that cannot be written.
 void exportarDibujo(const Lienzo& lienzo, const std::string& archivo);
 
+/// Makes the application object that fonts need, without a display, where there is none; it stays until the program
+/// ends.
+void asegurarAplicacionGrafica();
+
 }  // namespace calvento

@@ -48,8 +48,9 @@ class Repeticion {
         escala_(lienzo.escala()),
         x_(destino.width() / escala_.ancho),
         y_(destino.height() / escala_.alto),
-        factor_(destino.height() / std::max(lienzo.altoReferencia(), 1)) {
-    const double margen = 64 * factor_ + 64;  // room for the width of a line whose course lies just outside
+        pixel_(destino.height() / std::max(lienzo.altoPixeles(), 1)),
+        aumento_(destino.height() / std::max(lienzo.altoReferencia(), 1)) {
+    const double margen = 64 * pixel_ + 64;  // room for the width of a line whose course lies just outside
     marco_ = destino.adjusted(-margen, -margen, margen, margen);
   }
 
@@ -92,7 +93,7 @@ class Repeticion {
   }
 
   void operator()(const PrimTexto& p) {
-    const double pixeles = p.letra.puntos * pixelesPorPunto * factor_;
+    const double pixeles = p.letra.puntos * pixelesPorPunto * aumento_;
     const double alcance = pixeles * (static_cast<double>(p.texto.size()) + 1);
     const QPointF en = punto(p.en);
     if (!(pixeles > 0) || !destino_.adjusted(-alcance, -alcance, alcance, alcance).contains(en)) return;
@@ -113,11 +114,11 @@ class Repeticion {
 
   void usar(const Pluma& pluma) {
     // a line never becomes thinner than a hair that the eye finds
-    const double ancho = std::max(pluma.grosor * factor_, std::min(factor_, 0.8));
+    const double ancho = std::max(pluma.grosor * pixel_, std::min(pixel_, 0.8));
     QPen p(tinta(pluma.color), ancho, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
     if (pluma.estilo != EstiloLinea::solida) {
       QVector<qreal> t = trazos(pluma.estilo);
-      for (qreal& largo : t) largo *= factor_ / ancho;
+      for (qreal& largo : t) largo *= pixel_ / ancho;
       p.setDashPattern(t);
     }
     pintor_.setPen(p);
@@ -154,7 +155,7 @@ class Repeticion {
     if (puntos.isEmpty()) return;
     if (relleno.estilo == EstiloRelleno::cruzadoDiagonal) {
       usar(Pluma{relleno.color, EstiloLinea::solida, 1});
-      const auto rayas = rayadoCruzado(puntos, destino_.topLeft(), pasoRayado * factor_);
+      const auto rayas = rayadoCruzado(puntos, destino_.topLeft(), pasoRayado * pixel_);
       pintor_.drawLines(rayas.data(), static_cast<int>(rayas.size()));
     }
     if (relleno.estilo == EstiloRelleno::solido)
@@ -171,7 +172,8 @@ class Repeticion {
   EscalaLienzo escala_;
   double x_;
   double y_;
-  double factor_;
+  double pixel_;    ///< one pixel of the picture at its own size
+  double aumento_;  ///< how much larger than at its reference height the picture is painted
   std::optional<Letra> letraEnUso_;
 };
 

@@ -10,7 +10,8 @@ namespace calvento {
 
 /// Replays a picture into a rectangle of whatever the painter paints on: screen, image, page, vector file. The whole
 /// rectangle becomes white paper and nothing is painted outside it. The picture's scale is stretched over the
-/// rectangle; texts, line widths and hatches follow the rectangle's height.
+/// rectangle. Texts grow with the rectangle beyond the picture's reference height; line widths, dashes and hatches are
+/// those of the picture at its own size, so that they look alike on screen and in a file of any resolution.
 void pintar(const Lienzo& lienzo, QPainter& pintor, const QRectF& destino);
 
 /// The largest rectangle of the picture's proportions inside a page, centred.

@@ -55,6 +55,10 @@ void VistaLienzo::paintEvent(QPaintEvent*) {
     version_ = caja->lienzo.version();
   }
   pintor.drawPixmap(0, 0, imagen_);
+  if (property("borde").toBool()) {
+    pintor.setPen(QPen(Qt::darkGray, 1));
+    pintor.drawRect(QRectF(0.5, 0.5, width() - 1, height() - 1));
+  }
   if (caja->recuadro.visible) pintarRecuadro(*caja, pintor);
 }
 

@@ -10,7 +10,8 @@
 namespace calvento {
 
 /// The widget of a PictureBox: white paper with the retained picture, whatever the desktop's theme and scaling. It
-/// hands pointer events on in world coordinates. A box without a Resize event keeps its picture's proportions.
+/// hands pointer events on in world coordinates. A box without a Resize event keeps its picture's proportions. With the
+/// dynamic property "borde" it has a thin frame, which takes no room from the picture.
 class VistaLienzo : public QWidget {
  public:
   explicit VistaLienzo(QWidget* padre = nullptr);
