@@ -6,6 +6,9 @@
 #include <QPalette>
 #include <QTest>
 
+#include "apoyo/navegador_mudo.h"
+#include "dibujo/estado_rapida.h"
+#include "dibujo/form3.h"
 #include "plataforma/lienzo.h"
 #include "plataforma/ventana.h"
 #include "qt/vista_lienzo.h"
@@ -123,6 +126,31 @@ TEST(VistaLienzo, SobreviveALaVentanaQueMuestra) {
   vista->mostrar(otra.GRAF);
   vista.reset();
   otra.GRAF.cambiado();
+}
+
+TEST(VistaLienzo, UnaCajaArrastradaAmpliaElDibujoDeLaRapida) {
+  DesignState estado = rapidaDeMano();
+  NavegadorMudo navegador;
+  Form3 dibujo(estado, navegador);
+  VistaLienzo vista;
+  vista.resize(1000, 600);
+  vista.mostrar(dibujo.GRAF);
+  vista.show();
+  ASSERT_EQ(dibujo.GRAF.lienzo.anchoPixeles(), 1000) << "the drawing fills the widget";
+  const EscalaLienzo antes = dibujo.GRAF.lienzo.escala();
+  const double metro = antes.ancho / 1000;
+  QTest::mousePress(&vista, Qt::LeftButton, {}, QPoint(600, 450));
+  QTest::mouseMove(&vista, QPoint(500, 350));
+  QTest::mouseRelease(&vista, Qt::LeftButton, {}, QPoint(400, 300));
+  const EscalaLienzo& e = dibujo.GRAF.lienzo.escala();
+  // 200 by 150 pixels of a canvas of 10 by 6: the height decides
+  EXPECT_NEAR(-e.alto, 150 * metro, 1e-4);
+  EXPECT_NEAR(e.ancho, 250 * metro, 1e-4);
+  EXPECT_NEAR(e.izquierda + e.ancho / 2, antes.izquierda + 500 * metro, 1e-4);
+  EXPECT_NEAR(e.arriba, antes.arriba - 300 * metro, 1e-4);
+  // a click alone changes nothing
+  QTest::mouseClick(&vista, Qt::LeftButton, {}, QPoint(10, 10));
+  EXPECT_NEAR(dibujo.GRAF.lienzo.ScaleWidth(), 250 * metro, 1e-4);
 }
 
 }  // namespace
