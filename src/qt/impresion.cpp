@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QPainter>
+#include <QPicture>
 #include <QPrinter>
 
 namespace calvento {
@@ -20,7 +21,12 @@ bool imprimirVista(QMainWindow& vista, QPrinter& impresora) {
   const double escala = std::min(pagina.width() / cliente.width(), pagina.height() / cliente.height());
   pintor.translate((pagina.width() - escala * cliente.width()) / 2, 0);
   pintor.scale(escala, escala);
-  vista.render(&pintor, QPoint(), QRegion(cliente));
+  // a widget painted on a printer becomes dots of the screen; through a picture it stays lines and texts
+  QPicture dibujo;
+  vista.render(&dibujo, QPoint(), QRegion(cliente));
+  const double puntos = double(dibujo.logicalDpiX()) / impresora.logicalDpiX();  // a picture brings its own scale
+  pintor.scale(puntos, puntos);
+  pintor.drawPicture(0, 0, dibujo);
   return pintor.end();
 }
 

@@ -1,0 +1,224 @@
+// The whole program on the desktop: windows that come, go and come back, boxes, clipboard, printing.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPrinter>
+#include <QProcess>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include "apoyo/dialogos_guion.h"
+#include "poza/form2.h"
+#include "qt/cadena.h"
+#include "qt/dialogos_qt.h"
+#include "qt/impresion.h"
+#include "qt/programa.h"
+#include "qt/textos_es.h"
+
+namespace calvento {
+namespace {
+
+class EnElEscritorio : public testing::Test {
+ protected:
+  void SetUp() override { programa.aplicacion.arrancar(); }
+  QMainWindow* vista(const char* nombre) { return programa.sistema.vista(nombre); }
+  QLineEdit* campo(const char* ventana, const char* nombre) {
+    return vista(ventana)->findChild<QLineEdit*>(QLatin1String(nombre));
+  }
+  void elegir(const char* ventana, const char* accion) {
+    vista(ventana)->findChild<QAction*>(QLatin1String(accion))->trigger();
+  }
+  void cerrarConLaX(const char* ventana) {
+    programa.sistema.marco(ventana)->close();
+    QTest::qWait(0);
+  }
+  /// The boxes of the script stand outside: they outlive the program.
+  DialogosGuion dialogos;
+  Programa programa{dialogos};
+};
+
+TEST_F(EnElEscritorio, ArrancaConElAcercaDeYLoCierra) {
+  ASSERT_NE(vista("frmAbout"), nullptr);
+  EXPECT_TRUE(vista("frmAbout")->isVisible());
+  EXPECT_EQ(vista("Form14"), nullptr) << "made before it is shown";
+  QPointer<QMainWindow> acerca = vista("frmAbout");
+  QTest::mouseClick(acerca->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+  QTest::qWait(0);
+  EXPECT_TRUE(acerca.isNull());
+  elegir("frmMain", "mnacerca");
+  EXPECT_TRUE(vista("frmAbout")->isVisible());
+}
+
+TEST_F(EnElEscritorio, UnaVentanaAbiertaSeTraeAlFrente) {
+  elegir("frmMain", "Toolbar1_canal");
+  campo("Form14", "Text1")->setFocus();
+  QTest::keyClicks(campo("Form14", "Text1"), "3,5");
+  elegir("frmMain", "mnconjugados");
+  auto* area = vista("frmMain")->findChild<QMdiArea*>();
+  EXPECT_EQ(area->activeSubWindow(), programa.sistema.marco("Form15"));
+  elegir("frmMain", "mnnormal");
+  EXPECT_EQ(area->activeSubWindow(), programa.sistema.marco("Form14"));
+  EXPECT_EQ(area->subWindowList().size(), 2);
+  EXPECT_EQ(campo("Form14", "Text1")->text(), "3.5");
+}
+
+TEST_F(EnElEscritorio, DescargadaVuelveNuevaYOcultadaConSusTextos) {
+  programa.aplicacion.mostrar("Form14");
+  QTest::keyClicks(campo("Form14", "Text1"), "9");
+  cerrarConLaX("Form14");
+  EXPECT_EQ(vista("Form14"), nullptr);
+  EXPECT_EQ(programa.aplicacion.cargada("Form14"), nullptr);
+  programa.aplicacion.mostrar("Form14");
+  EXPECT_EQ(campo("Form14", "Text1")->text(), "");
+
+  programa.aplicacion.mostrar("Form2");
+  campo("Form2", "Text2")->selectAll();
+  QTest::keyClicks(campo("Form2", "Text2"), "7");
+  QTest::mouseClick(vista("Form2")->findChild<QPushButton*>("Command2"), Qt::LeftButton);
+  EXPECT_FALSE(programa.sistema.marco("Form2")->isVisible());
+  programa.aplicacion.mostrar("Form2");
+  EXPECT_EQ(campo("Form2", "Text2")->text(), "7");
+  cerrarConLaX("Form2");
+  ASSERT_NE(vista("Form2"), nullptr);
+  EXPECT_FALSE(programa.sistema.marco("Form2")->isVisible());
+  EXPECT_EQ(programa.aplicacion.cargar<Form2>("Form2")->Text2.Text.valor(), "7");
+  programa.aplicacion.mostrar("Form2");
+  EXPECT_TRUE(programa.sistema.marco("Form2")->isVisible());
+  EXPECT_EQ(campo("Form2", "Text2")->text(), "7");
+}
+
+TEST_F(EnElEscritorio, LaVentanaCrecidaCabeOSeRecorre) {
+  vista("frmMain")->resize(500, 400);
+  programa.aplicacion.mostrar("Form14");
+  QTest::qWait(0);
+  auto* area = vista("frmMain")->findChild<QMdiArea*>();
+  const QWidget* marco = programa.sistema.marco("Form14");
+  EXPECT_GE(marco->width(), vista("Form14")->minimumSizeHint().width());
+  EXPECT_EQ(area->horizontalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
+  EXPECT_GE(marco->x(), 0);
+  EXPECT_GE(marco->y(), 0);
+}
+
+TEST_F(EnElEscritorio, LosMenusTienenSuOrdenYSusTeclas) {
+  QStringList textos;
+  for (const QAction* a : vista("frmMain")->menuBar()->actions().constFirst()->menu()->actions())
+    textos << (a->isSeparator() ? "-" : a->text() + "|" + a->shortcut().toString());
+  EXPECT_EQ(deQt(textos.join(";")),
+            "Rápida|Ctrl+R;Caída Inclinada|Ctrl+I;Caída Vertical|Ctrl+T;-;&Canal|;-;&Salir|Ctrl+Q");
+  const auto conIcono = [&](const char* accion) {
+    return !vista("frmMain")->findChild<QAction*>(QLatin1String(accion))->icon().isNull();
+  };
+  for (const char* a : {"mnrapida", "mncaidainclinada", "mncaidavertical", "mnraya", "mnsalir", "mndocumento"})
+    EXPECT_TRUE(conIcono(a)) << a;
+  for (const char* a : {"mnnormal", "mnconjugados", "mnacerca"}) EXPECT_FALSE(conIcono(a)) << a;
+  EXPECT_TRUE(vista("frmMain")->findChild<QMenu*>("mncanal")->icon().isNull());
+}
+
+TEST_F(EnElEscritorio, ElCanalSeCalculaTecleando) {
+  elegir("frmMain", "Toolbar1_canal");
+  const std::pair<const char*, const char*> datos[] = {
+      {"Text1", "126"}, {"Text2", "1,5"}, {"Text3", "6.1"}, {"Text4", "0,013"}, {"Text5", "0.0008"}};
+  campo("Form14", "Text1")->setFocus();
+  for (const auto& [nombre, tecleado] : datos) QTest::keyClicks(campo("Form14", nombre), tecleado);
+  QTest::keyClick(campo("Form14", "Text5"), Qt::Key_Return);
+  EXPECT_EQ(campo("Form14", "Text11")->text(), "3.286");
+  EXPECT_EQ(campo("Form14", "Text6")->text(), "2.783");
+  QTest::mouseClick(vista("Form14")->findChild<QRadioButton*>("Option1"), Qt::LeftButton, {}, QPoint(8, 8));
+  EXPECT_TRUE(campo("Form14", "Text11")->isHidden());
+  EXPECT_EQ(deQt(campo("Form14", "Text1")->accessibleName()), "Datos: Tirante (m)");
+  dialogos.esperaFallo("Ingreso de datos incorrectos");
+  QTest::mouseClick(vista("Form14")->findChild<QRadioButton*>("Option3"), Qt::LeftButton, {}, QPoint(8, 8));
+  campo("Form14", "Text5")->clear();
+  QTest::keyClicks(campo("Form14", "Text5"), "0");
+  QTest::mouseClick(vista("Form14")->findChild<QPushButton*>("Command1"), Qt::LeftButton);
+}
+
+TEST_F(EnElEscritorio, CopiarPoneLaVentanaEnElPortapapeles) {
+  programa.aplicacion.mostrar("Form15");
+  QGuiApplication::clipboard()->clear();
+  elegir("Form15", "Toolbar1_botoncopiar");
+  EXPECT_TRUE(QGuiApplication::clipboard()->pixmap().isNull()) << "copied before the menu could close";
+  QTest::qWait(0);
+  const QPixmap copia = QGuiApplication::clipboard()->pixmap();
+  const QSize marco = programa.sistema.marco("Form15")->size();
+  EXPECT_EQ(copia.deviceIndependentSize().toSize(), marco);
+}
+
+TEST_F(EnElEscritorio, ImprimeLaVentanaConTextoDeVerdad) {
+  programa.aplicacion.mostrar("Form15");
+  QTemporaryDir carpeta;
+  const QString archivo = carpeta.filePath("ventana.pdf");
+  QPrinter pdf(QPrinter::HighResolution);
+  pdf.setOutputFormat(QPrinter::PdfFormat);
+  pdf.setOutputFileName(archivo);
+  ASSERT_TRUE(imprimirVista(*vista("Form15"), pdf));
+  EXPECT_EQ(pdf.pageLayout().orientation(), QPageLayout::Landscape);
+  if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "pdftotext is not installed";
+  QProcess p;
+  p.start("pdftotext", {"-layout", archivo, "-"});
+  ASSERT_TRUE(p.waitForFinished());
+  const QString texto = QString::fromUtf8(p.readAllStandardOutput());
+  EXPECT_TRUE(texto.contains("Relación, y2/y1:")) << deQt(texto);
+  EXPECT_EQ(texto.count(u'\f'), 1) << "one page";
+
+  pdf.setOutputFileName(carpeta.filePath("no/hay/ventana.pdf"));
+  EXPECT_FALSE(imprimirVista(*vista("Form15"), pdf));
+}
+
+TEST_F(EnElEscritorio, LoAplazadoNoCorreDentroDeOtroBucle) {
+  bool corrio = false;
+  QTimer::singleShot(0, [&] {
+    programa.sistema.despues([&] { corrio = true; });
+    QEventLoop caja;
+    QTimer::singleShot(20, &caja, &QEventLoop::quit);
+    caja.exec();
+    EXPECT_FALSE(corrio) << "the event that asked for it had not ended";
+  });
+  QTest::qWait(60);
+  EXPECT_TRUE(corrio);
+}
+
+TEST(Cajas, LaPreguntaEnEspanolSeContesta) {
+  instalarTextosEspanoles(*qApp);
+  DialogosQt dialogos;
+  for (const char* respuesta : {"Sí", "No"}) {
+    QStringList textos;
+    QTimer::singleShot(0, [&] {
+      auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(caja, nullptr);
+      EXPECT_EQ(caja->text(), "¿Continuar? <b>&</b>");
+      for (QAbstractButton* b : caja->buttons()) {
+        textos << b->text();
+        if (b->text() == QString::fromUtf8(respuesta)) QTest::mouseClick(b, Qt::LeftButton);
+      }
+    });
+    EXPECT_EQ(dialogos.pregunta("¿Continuar? <b>&</b>"), std::string(respuesta) == "Sí");
+    EXPECT_EQ(textos.size(), 2);
+  }
+  EXPECT_EQ(QCoreApplication::translate("QWidgetTextControl", "&Paste"), "&Pegar");
+  EXPECT_EQ(QCoreApplication::translate("QShortcut", "Ctrl"), "Ctrl");
+}
+
+TEST(Cajas, ArchivosConSuExtensionYSuFiltro) {
+  EXPECT_EQ(filtroQt("Rápidas(*.CVR)|*.cvr"), QStringLiteral("Rápidas(*.CVR) (*.cvr *.CVR)"));
+  EXPECT_EQ(filtroQt("Todos"), "Todos (*)");
+  EXPECT_EQ(conExtension("/a.b/canal", "cvr"), "/a.b/canal.cvr");
+  EXPECT_EQ(conExtension("/a/canal.txt", "cvr"), "/a/canal.txt");
+  EXPECT_EQ(conExtension("/a/caña", "cvr"), "/a/caña.cvr");
+}
+
+}  // namespace
+}  // namespace calvento
