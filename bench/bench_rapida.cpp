@@ -43,15 +43,15 @@ using FilaDesnuda = std::array<float, 5>;
   y = y / 2;
   float r = 0;
   for (int i = 0; i < 100; ++i) {
-    double R = 0;
+    double raiz = 0;
     for (int vuelta = 0; vuelta < 100000; ++vuelta) {
       r = static_cast<float>(y);
       const double T = t.b + 2 * t.z * y;
       A = (t.b + t.z * y) * y;
       v = t.Q / A;
       const double P = t.b + 2 * y * W;
-      R = A / P;
-      const double raiz = t.n * v / std::pow(R, 2.0 / 3.0);
+      const double R = A / P;
+      raiz = t.n * v / std::pow(R, 2.0 / 3.0);
       const double F = v * v / 19.62 + y + 0.5 * ds * (raiz * raiz) - H;
       const double dF = 1 - T * v * v / (9.81 * A) -
                         (0.5 * ds * t.n * t.n / std::pow(R, 7.0 / 3.0)) *
@@ -63,7 +63,6 @@ using FilaDesnuda = std::array<float, 5>;
     c -= dz;
     *fila++ = {x, static_cast<float>(y), static_cast<float>(c), static_cast<float>(v),
                static_cast<float>(v * v / 19.62 + y + c)};
-    const double raiz = t.n * v / std::pow(R, 2.0 / 3.0);
     H = dz + y + v * v / 19.62 - ds * (raiz * raiz) / 2;
     y = 0.9 * y;
   }

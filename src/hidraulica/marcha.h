@@ -22,6 +22,48 @@ struct EstacionMarcha {
 
 inline constexpr int pasosPorTramo = 100;
 
+namespace detalle {
+
+/// One Newton round of a station: the corrected depth, and the flow at the depth before it.
+struct Vuelta {
+  Real y, v, A, T;
+  Real raizSf;  ///< square root of the friction slope
+};
+
+/// The rounds are the bulk of a chute's calculation. Their sums and products are bare numbers: an infinity in them
+/// stays one up to the end of the statement. Only what divides, is raised to a power or leaves the round is checked.
+class PasoMarcha {
+ public:
+  PasoMarcha(const TramoMarcha& t, Real paso)
+      : Q(t.Q.valor()),
+        b(t.b.valor()),
+        z(t.z.valor()),
+        n(t.n.valor()),
+        ds(paso.valor()),
+        W(Sqr(1 + t.z * t.z).valor()) {}
+
+  Vuelta corregir(double y, double H) const {
+    const double T = b + 2 * z * y;
+    const double A = comprobado((b + z * y) * y).valor();
+    const double v = (Real(Q) / A).valor();
+    const double P = comprobado(b + 2 * y * W).valor();
+    const Real R = Real(A) / P;
+    const double raizSf = (Real(n * v) / potencia(R, 2.0 / 3.0)).valor();
+    const double F = v * v / dosG + y + 0.5 * ds * (raizSf * raizSf) - H;
+    const double dF = 1 - cociente(T * v * v, gravedad * A) -
+                      cociente(0.5 * ds * n * n, potencia(R, 7.0 / 3.0).valor()) *
+                          (2 * R.valor() * T * v * v / A + cociente(4, 3 * P * P) * v * v * (T * P - 2 * A * W));
+    return {comprobado(y - cociente(F, dF)), v, A, comprobado(T), raizSf};
+  }
+
+ private:
+  static double cociente(double a, double divisor) { return (Real(a) / comprobado(divisor)).valor(); }
+
+  double Q, b, z, n, ds, W;
+};
+
+}  // namespace detalle
+
 /// Water surface of a reach by the standard step method in energy form, downstream in 100 equal steps from the depth y
 /// at its head; calls `enEstacion` after each step. Returns the iterate before the last correction, as a 4-byte value.
 /// The energy of the first step carries no friction term of the section at the head. Fails for a slope of 0 and where a
@@ -31,32 +73,23 @@ Single marchar(const TramoMarcha& t, Real y, EnEstacion&& enEstacion) {
   const Real L = (t.cotaA - t.cotaB) / t.S;
   const Real dz = (t.cotaA - t.cotaB) / pasosPorTramo;
   const Real ds = Sqr(t.S * t.S + 1) * L / pasosPorTramo;
-  const Real W = Sqr(1 + t.z * t.z);
-  Real A = (t.b + t.z * y) * y;
-  Real v = t.Q / A;
-  Real H = dz + y + v * v / dosG;
+  const Real v0 = t.Q / ((t.b + t.z * y) * y);
+  Real H = dz + y + v0 * v0 / dosG;
   y = y / 2;
   Single r = 0;
+  const detalle::PasoMarcha paso(t, ds);
   for (int i = 0; i < pasosPorTramo; ++i) {
-    Real T, R;
+    detalle::Vuelta vuelta;
     Vueltas vueltas;
     do {
       vueltas.una();
       r = y;
-      T = t.b + 2 * t.z * y;
-      A = (t.b + t.z * y) * y;
-      v = t.Q / A;
-      const Real P = t.b + 2 * y * W;
-      R = A / P;
-      const Real F = v * v / dosG + y + 0.5 * ds * cuadrado(t.n * v / potencia(R, 2.0 / 3.0)) - H;
-      const Real dF = 1 - T * v * v / (gravedad * A) -
-                      (0.5 * ds * t.n * t.n / potencia(R, 7.0 / 3.0)) *
-                          (2 * R * T * v * v / A + (4 / (3 * P * P)) * v * v * (T * P - 2 * A * W));
-      y = y - F / dF;
+      vuelta = paso.corregir(y.valor(), H.valor());
+      y = vuelta.y;
     } while (!(Abs(y - r) < 0.00001));
-    enEstacion(EstacionMarcha{dz / t.S, dz, y, v, A, T});
-    const Real Sf = cuadrado(t.n * v / potencia(R, 2.0 / 3.0));
-    H = dz + y + v * v / dosG - ds * Sf / 2;
+    const Real v = vuelta.v;
+    enEstacion(EstacionMarcha{dz / t.S, dz, y, v, vuelta.A, vuelta.T});
+    H = dz + y + v * v / dosG - ds * cuadrado(vuelta.raizSf) / 2;
     y = t.amortiguacion * y;
   }
   return r;

@@ -1,5 +1,7 @@
+#include <QFileInfo>
 #include <QTimer>
 
+#include "modelo/proyecto.h"
 #include "qt/aplicacion_qt.h"
 #include "qt/cadena.h"
 #include "qt/dialogos_qt.h"
@@ -11,6 +13,8 @@ int main(int argc, char** argv) {
   calvento::DialogosQt dialogos;
   calvento::Programa programa(dialogos);
   const auto abrir = [&](const std::string& archivo) {
+    // as after a file dialog: the project is saved back into its own folder
+    calvento::usarCarpetaDe(archivo);
     if (!programa.aplicacion.abrirProyecto(archivo))
       dialogos.fallo("\"" + archivo + "\" no es un proyecto de rápida, caída inclinada ni caída vertical");
   };
@@ -20,7 +24,9 @@ int main(int argc, char** argv) {
   QTimer::singleShot(0, &aplicacion, [&] {
     programa.aplicacion.arrancar();
     const QStringList argumentos = QCoreApplication::arguments();
-    for (int i = 1; i < argumentos.size(); ++i) abrir(calvento::deQt(argumentos[i]));
+    QStringList rutas;  // all of them before the first one changes the folder
+    for (const QString& argumento : argumentos.mid(1)) rutas << QFileInfo(argumento).absoluteFilePath();
+    for (const QString& ruta : rutas) abrir(calvento::deQt(ruta));
   });
   return QCoreApplication::exec();
 }

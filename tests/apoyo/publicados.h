@@ -3,11 +3,15 @@
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
+#include <gtest/gtest.h>
 #include <map>
 #include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
+
+#include "comun/numeros.h"
 
 namespace calvento {
 
@@ -63,6 +67,25 @@ inline std::vector<CifraPublicada> cifrasPublicadas(const std::string& tema) {
     cifras.push_back(std::move(c));
   }
   return cifras;
+}
+
+/// Checks every figure of a topic against the program's, and that docs/validacion.md shows both.
+inline void compararPublicados(const std::string& tema, std::size_t cuantas,
+                               const std::function<Real(const CifraPublicada&)>& programa) {
+  const auto cifras = cifrasPublicadas(tema);
+  EXPECT_EQ(cifras.size(), cuantas);
+  std::ifstream archivo(RAIZ_PROYECTO "/docs/validacion.md");
+  const std::string pagina{std::istreambuf_iterator<char>(archivo), {}};
+  for (const CifraPublicada& c : cifras) {
+    const Real nuestro = programa(c);
+    EXPECT_NEAR(nuestro.valor(), c.valor(), c.tolerancia) << c.caso << ' ' << c.magnitud << ", " << c.fuente;
+    // the page for the reader shows what the program gives today
+    std::string patron = "0.";
+    patron.append(static_cast<std::size_t>(c.decimales()) + 1, '0');
+    const std::string renglon = "| " + c.caso + " | " + c.entrada + " | " + c.magnitud + " | " + c.publicado + " | " +
+                                formato(nuestro, patron) + " |";
+    EXPECT_NE(pagina.find(renglon), std::string::npos) << "docs/validacion.md lacks the row\n" << renglon;
+  }
 }
 
 }  // namespace calvento
