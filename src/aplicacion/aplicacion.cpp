@@ -13,6 +13,8 @@
 #include "modelo/archivo_proyecto.h"
 #include "plataforma/ventana_datos.h"
 #include "rapida/form10.h"
+#include "reportes/form11.h"
+#include "reportes/form8.h"
 
 namespace calvento {
 
@@ -28,6 +30,8 @@ const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
       {"Form16", [](Aplicacion& a) { return std::make_unique<Form16>(a.estado, a.form25(), a.dialogos_, a); }},
       {"Form25", [](Aplicacion& a) { return std::make_unique<Form25>(a.estado, a); }},
       {"Form10", [](Aplicacion& a) { return std::make_unique<Form10>(a.estado, a.form2(), a.dialogos_, a); }},
+      {"Form11", [](Aplicacion& a) { return std::make_unique<Form11>(a.estado, a); }},
+      {"Form8", [](Aplicacion& a) { return std::make_unique<Form8>(a.estado, a); }},
   };
   return ventanas;
 }

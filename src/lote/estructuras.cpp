@@ -23,6 +23,7 @@ Estructura rapida() {
       {"Label27", "Label35", "Label41"},
       {"Label41", "Label35"},
       {"mngrafico", "mntabla", "mntanque", "mnst", "mntperfil", "mntrayectoria", "mnformondas"},
+      {{"mntperfil", "Form11"}, {"mntrayectoria", "Form8"}},
       {
           {"Caudal", {{"Q", "Text5", "m³/s"}}},
           canalArriba(),

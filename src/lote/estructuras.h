@@ -31,6 +31,13 @@ struct Linea {
   std::vector<Pieza> piezas;
 };
 
+/// A result window and the menu that opens it.
+struct Reporte {
+  std::string_view menu;
+  std::string_view ventana;
+  int tipoTanque = 0;  ///< of that basin type only; 0: of any
+};
+
 /// What the program knows of one kind of structure: everything else it asks the data window itself.
 struct Estructura {
   std::string_view clave;                   ///< in the JSON object
@@ -38,6 +45,7 @@ struct Estructura {
   std::vector<std::string_view> etiquetas;  ///< labels of the data window that hold a result
   std::vector<std::string_view> notas;      ///< those of them that are remarks, not numbers
   std::vector<std::string_view> menus;      ///< its result menus
+  std::vector<Reporte> reportes;            ///< in the order in which they are told
   std::vector<Linea<Dato>> datos;
   std::vector<Linea<Valor>> resultados;
 };

@@ -1,5 +1,6 @@
 #include "lote/json.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -162,6 +163,51 @@ void escribirVentana(EscritorJson& j, const Ventana& ventana, const Estructura& 
   j.cerrarObjeto();
 }
 
+/// A window that holds nothing but a table is that table; any other is an object of its tables and texts.
+void escribirReporte(EscritorJson& j, const Ventana& ventana) {
+  const auto* unica = ventana.buscar<Grid>("Grid1");
+  const auto esTexto = [](const Control* c) {
+    return dynamic_cast<const TextBox*>(c) != nullptr || dynamic_cast<const Label*>(c) != nullptr;
+  };
+  const auto& controles = ventana.controles();
+  if (unica != nullptr && std::none_of(controles.begin(), controles.end(), esTexto)) {
+    escribirTabla(j, unica->tabla);
+    return;
+  }
+  j.abrirObjeto();
+  for (const Control* c : controles) {
+    if (const auto* tabla = dynamic_cast<const Grid*>(c)) {
+      j.clave(c->nombre());
+      escribirTabla(j, tabla->tabla);
+    } else if (const auto* texto = dynamic_cast<const TextBox*>(c)) {
+      j.clave(c->nombre());
+      j.texto(texto->Text.valor());
+    } else if (const auto* rotulo = dynamic_cast<const Label*>(c)) {
+      j.clave(c->nombre());
+      j.texto(rotulo->Caption.valor());
+    }
+  }
+  j.cerrarObjeto();
+}
+
+void escribirReportes(EscritorJson& j, const std::vector<ReporteAbierto>& reportes) {
+  if (reportes.empty()) return;
+  j.clave("reportes");
+  j.abrirObjeto();
+  for (const ReporteAbierto& r : reportes) {
+    j.clave(r.nombre);
+    if (r.ventana != nullptr) {
+      escribirReporte(j, *r.ventana);
+      continue;
+    }
+    j.abrirObjeto();
+    j.clave("fallo");
+    j.texto(r.fallo);
+    j.cerrarObjeto();
+  }
+  j.cerrarObjeto();
+}
+
 void escribirCabecera(EscritorJson& j, const std::string& archivo, const Estructura* estructura, bool calculado) {
   j.clave("archivo");
   j.texto(archivo);
@@ -182,6 +228,7 @@ std::string comoJson(const Sesion& s) {
     escribirEstado(j, s.estado());
     escribirPerfiles(j, s.estado());
     escribirVentana(j, *s.ventana(), *s.estructura());
+    escribirReportes(j, s.reportes());
   }
   j.cerrarObjeto();
   return j.salida();

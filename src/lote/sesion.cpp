@@ -33,6 +33,7 @@ Sesion::Sesion(const Opciones& opciones, std::string archivo)
   pantalla_.atender();
   mensajes_ = dialogos_.mensajes;
   estado_ = aplicacion_.estado;
+  abrirReportes();
 }
 
 void Sesion::ejecutar(const Opciones& opciones) {
@@ -52,6 +53,21 @@ void Sesion::ejecutar(const Opciones& opciones) {
   ponerCampos(opciones, false);
   for (int i = cambiado ? -1 : 0; i < opciones.veces; ++i) ventana_->Command3_Click();
   calculado_ = ventana_->calculado();
+}
+
+void Sesion::abrirReportes() {
+  if (ventana_ == nullptr) return;
+  for (const Reporte& r : estructura_->reportes) {
+    const auto* menu = ventana_->buscar<Menu>(r.menu);
+    if (menu == nullptr || !menu->Enabled) continue;
+    if (r.tipoTanque != 0 && !(estado_.tipoTanque == r.tipoTanque)) continue;
+    dialogos_.mensajes.clear();
+    const Ventana* reporte = aplicacion_.cargar(r.ventana);
+    std::string fallo;
+    for (const Mensaje& m : dialogos_.mensajes)
+      if (m.tipo == Mensaje::Tipo::fallo) fallo = m.texto;
+    reportes_.push_back({r.ventana, reporte, fallo});
+  }
 }
 
 void Sesion::ponerCampos(const Opciones& opciones, bool deParametros) {

@@ -18,6 +18,13 @@ struct Mensaje {
   bool respuesta = false;  ///< of a question: yes
 };
 
+/// A result window that was opened after the calculation; without a window, why it did not open.
+struct ReporteAbierto {
+  std::string_view nombre;
+  const Ventana* ventana = nullptr;
+  std::string fallo;
+};
+
 /// Boxes that nobody sees: they are written down, and every question gets the same answer.
 class DialogosGrabados : public Dialogos {
  public:
@@ -73,9 +80,12 @@ class Sesion {
   /// live one.
   const std::vector<Mensaje>& mensajes() const { return mensajes_; }
   const DesignState& estado() const { return estado_; }
+  /// The result windows whose menus are enabled.
+  const std::vector<ReporteAbierto>& reportes() const { return reportes_; }
 
  private:
   void ejecutar(const Opciones& opciones);
+  void abrirReportes();
   void ponerCampos(const Opciones& opciones, bool deParametros);
 
   std::string archivo_;
@@ -84,6 +94,7 @@ class Sesion {
   bool calculado_ = false;
   std::vector<Mensaje> mensajes_;
   DesignState estado_;
+  std::vector<ReporteAbierto> reportes_;
   VentanaDatos* ventana_ = nullptr;
 
   DialogosGrabados dialogos_;

@@ -6,9 +6,11 @@
 #include <QMainWindow>
 
 #include "ui_Form10.h"
+#include "ui_Form11.h"
 #include "ui_Form14.h"
 #include "ui_Form15.h"
 #include "ui_Form2.h"
+#include "ui_Form8.h"
 #include "ui_frmAbout.h"
 #include "ui_frmMain.h"
 
@@ -28,6 +30,8 @@ constexpr std::array ventanas_ui = {
     VentanaUi{"Form10", Puesto::hija, construir<Ui::Form10>},
     VentanaUi{"Form14", Puesto::hija, construir<Ui::Form14>},
     VentanaUi{"Form15", Puesto::hija, construir<Ui::Form15>},
+    VentanaUi{"Form11", Puesto::hija, construir<Ui::Form11>},
+    VentanaUi{"Form8", Puesto::hija, construir<Ui::Form8>},
 };
 
 }  // namespace

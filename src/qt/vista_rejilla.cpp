@@ -60,7 +60,7 @@ VistaRejilla::VistaRejilla(Grid& control, QTableWidget& widget, Atender atender)
 
 int VistaRejilla::filasEnCabecera() const {
   const Rejilla& t = control_.tabla;
-  return t.filasTitulo == 1 && !t.unirTitulos && t.filas() > 0 ? 1 : 0;
+  return t.unirTitulos ? 0 : std::min(t.filasTitulo, t.filas());
 }
 
 void VistaRejilla::pulsar(int filaWidget, bool doble) {
@@ -89,11 +89,18 @@ void VistaRejilla::escribirCelda(int fila, int columna) {
     celda = new QTableWidgetItem;
     f < 0 ? widget_.setHorizontalHeaderItem(columna, celda) : widget_.setItem(f, columna, celda);
   }
-  const QString texto = aQt(t.texto(fila, columna));
+  const QString texto = f < 0 ? textoCabecera(columna) : aQt(t.texto(fila, columna));
   if (celda->text() != texto) celda->setText(texto);
   const auto alineacion = alineacionQt(esTitulo(fila) ? Alineacion::centro : t.alineacion(columna));
   if (celda->textAlignment() != static_cast<int>(alineacion)) celda->setTextAlignment(alineacion);
   if (f >= 0) pintarCelda(*celda, fila, columna);
+}
+
+/// Several heading rows are as many lines of the header.
+QString VistaRejilla::textoCabecera(int columna) const {
+  QStringList lineas;
+  for (int f = 0; f < filasEnCabecera(); ++f) lineas << aQt(control_.tabla.texto(f, columna));
+  return lineas.join(u'\n');
 }
 
 /// A coloured cell brings its own text colour; the others are left to the desktop.

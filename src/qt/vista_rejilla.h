@@ -4,6 +4,7 @@
 #include <memory>
 
 #include <QObject>
+#include <QString>
 
 #include "plataforma/rejilla.h"
 
@@ -13,9 +14,9 @@ class QTableWidgetItem;
 
 namespace calvento {
 
-/// Shows a table in a QTableWidget: texts, colours, widths, joined headings, and takes it to the clipboard. One row of
-/// plain headings becomes the header of the widget, which stays in sight; joined or several heading rows are the first
-/// rows of the table.
+/// Shows a table in a QTableWidget: texts, colours, widths, joined headings, and takes it to the clipboard. Plain
+/// heading rows become the lines of the widget's header, which stays in sight; joined ones are the first rows of the
+/// table.
 class VistaRejilla : public QObject {
  public:
   /// `atender` runs what a click of the user does.
@@ -35,6 +36,7 @@ class VistaRejilla : public QObject {
   int filasEnCabecera() const;
   bool esTitulo(int fila) const { return fila < control_.tabla.filasTitulo; }
   void escribirCelda(int fila, int columna);
+  QString textoCabecera(int columna) const;
   void pintarCelda(QTableWidgetItem& celda, int fila, int columna) const;
   void unirTitulos();
   void ajustarAnchos();

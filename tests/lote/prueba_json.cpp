@@ -89,8 +89,8 @@ TEST_F(ObjetoJson, HasItsPartsInTheirOrder) {
   ASSERT_EQ(c.estado, 0) << c.errores;
   const auto d = c.objetos().at(0);
   using Lista = std::vector<std::string>;
-  EXPECT_EQ(claves(d),
-            (Lista{"archivo", "estructura", "calculado", "mensajes", "estado", "perfil", "perfilCaida", "ventana"}));
+  EXPECT_EQ(claves(d), (Lista{"archivo", "estructura", "calculado", "mensajes", "estado", "perfil", "perfilCaida",
+                              "ventana", "reportes"}));
   EXPECT_EQ(claves(d["ventana"]), (Lista{"titulo", "campos", "etiquetas", "panel1", "menus", "Grid1"}));
   EXPECT_EQ(claves(d["ventana"]["etiquetas"]), (Lista{"Label27", "Label35", "Label41"}));
   EXPECT_EQ(d["archivo"], canal);

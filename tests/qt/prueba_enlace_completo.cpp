@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "apoyo/dialogos_guion.h"
+#include "plataforma/ventana_datos.h"
 #include "qt/cadena.h"
 #include "qt/programa.h"
 
@@ -18,6 +19,8 @@ class VentanaCompleta : public testing::TestWithParam<std::string> {};
 TEST_P(VentanaCompleta, SeEnlazaConSuDiseno) {
   DialogosGuion dialogos;
   Programa programa(dialogos);
+  // reports need a design
+  programa.aplicacion.cargar<VentanaDatos>("Form10")->abrir(RAIZ_PROYECTO "/ejemplos/04-tres-tramos.cvr");
   Ventana* ventana = programa.aplicacion.cargar(GetParam());
   ASSERT_NE(ventana, nullptr) << "no class";
   QMainWindow vista;
@@ -28,7 +31,9 @@ TEST_P(VentanaCompleta, SeEnlazaConSuDiseno) {
   } catch (const FalloEnlace& fallo) {
     FAIL() << fallo.what();
   }
-  EXPECT_EQ(deQt(vista.windowTitle()), ventana->Caption.valor());
+  if (dynamic_cast<VentanaDatos*>(ventana) == nullptr) {  // a data window bears the name of its project
+    EXPECT_EQ(deQt(vista.windowTitle()), ventana->Caption.valor());
+  }
   for (const QLineEdit* campo : vista.findChildren<QLineEdit*>())
     EXPECT_FALSE(campo->accessibleName().isEmpty()) << deQt(campo->objectName()) << " says nothing to a screen reader";
 }
