@@ -73,6 +73,7 @@ Estructura caidaInclinada() {
       {"Label27", "Label29", "Label41"},
       {"Label41", "Label29"},
       {"mngrafico", "mnst", "mntabla", "mntanque"},
+      {},
       {
           {"Caudal", {{"Q", "Text5", "m³/s"}}},
           canalArriba(),
@@ -116,6 +117,7 @@ Estructura caidaVertical() {
       {"Label41", "Label48"},
       {"Label41"},
       {"mngrafico", "mnseccion", "mntanque"},
+      {},
       {
           {"Caudal", {{"Q", "Text5", "m³/s"}}},
           canalArriba(),
