@@ -13,6 +13,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QScreen>
+#include <QTimer>
 
 #include "qt/cadena.h"
 #include "qt/impresion.h"
@@ -61,6 +62,7 @@ void SistemaQt::cerrarTodo() {
   for (auto& [nombre, abierta] : abiertas_)
     if (abierta.enlace) abierta.enlace->soltar();
   abiertas_.clear();
+  enEspera_.clear();
   delete principal_;
 }
 
@@ -106,6 +108,8 @@ SistemaQt::Abierta& SistemaQt::crear(Ventana& ventana) {
 
 void SistemaQt::colocarPrincipal(QMainWindow& vista) {
   principal_ = &vista;
+  icono_ = vista.windowIcon();
+  vista.setWindowIcon({});
   area_ = vista.findChild<QMdiArea*>();
   const QRect pantalla = vista.screen()->availableGeometry();
   const QSize tamano = (pantalla.size() - marcoEscritorio).boundedTo(tamanoMayor);
@@ -134,6 +138,11 @@ void SistemaQt::colocarSuelta(QMainWindow& vista) {
 }
 
 void SistemaQt::presentar(Ventana& ventana) {
+  const VentanaUi* diseno = ventanaUi(ventana.nombre());
+  if (principal_ && !pintada_ && diseno != nullptr && diseno->puesto == Puesto::suelta) {
+    enEspera_.push_back(&ventana);
+    return;
+  }
   Abierta* abierta = buscar(ventana);
   const bool nueva = abierta == nullptr;
   if (nueva) abierta = &crear(ventana);
@@ -152,7 +161,15 @@ void SistemaQt::ocultar(Ventana& ventana) {
   if (const Abierta* abierta = buscar(ventana)) abierta->marco->hide();
 }
 
+/// The start is as fast as the main window alone: the rest is made when it can be seen.
+void SistemaQt::alPintarPrincipal() {
+  if (!principal_) return;
+  principal_->setWindowIcon(icono_);
+  for (Ventana* ventana : std::exchange(enEspera_, {})) presentar(*ventana);
+}
+
 void SistemaQt::cerrar(Ventana& ventana) {
+  std::erase(enEspera_, &ventana);
   const Abierta* abierta = buscar(ventana);
   if (abierta == nullptr) return;
   abierta->enlace->soltar();
@@ -192,6 +209,8 @@ void SistemaQt::copiar(Ventana& ventana) {
 }
 
 bool SistemaQt::eventFilter(QObject* objeto, QEvent* evento) {
+  if (evento->type() == QEvent::Paint && objeto == principal_ && !std::exchange(pintada_, true))
+    QTimer::singleShot(0, this, &SistemaQt::alPintarPrincipal);
   if (evento->type() != QEvent::Close) return false;
   evento->ignore();
   protegido([this](const std::string& texto) { dialogos_.fallo(texto); }, [&] { alCerrar(objeto); });

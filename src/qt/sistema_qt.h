@@ -4,7 +4,9 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include <QIcon>
 #include <QObject>
 #include <QPointer>
 
@@ -60,11 +62,15 @@ class SistemaQt : public QObject, public SistemaVentanas {
   QWidget* colocarHija(QMainWindow& vista);
   void colocarSuelta(QMainWindow& vista);
   void alCerrar(QObject* marco);
+  void alPintarPrincipal();
 
   Dialogos& dialogos_;
   Navegador* navegador_ = nullptr;
   QPointer<QMainWindow> principal_;
   QPointer<QMdiArea> area_;
+  bool pintada_ = false;            ///< the main window has been seen
+  QIcon icono_;                     ///< its icon, painted in many sizes, once it has
+  std::vector<Ventana*> enEspera_;  ///< what is to stand above it, shown after it
   std::map<std::string, Abierta, std::less<>> abiertas_;
 };
 

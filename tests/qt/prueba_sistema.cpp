@@ -33,7 +33,10 @@ namespace {
 
 class EnElEscritorio : public testing::Test {
  protected:
-  void SetUp() override { programa.aplicacion.arrancar(); }
+  void SetUp() override {
+    programa.aplicacion.arrancar();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return vista("frmAbout") != nullptr; }));  // above the painted main window
+  }
   QMainWindow* vista(const char* nombre) { return programa.sistema.vista(nombre); }
   QLineEdit* campo(const char* ventana, const char* nombre) {
     return vista(ventana)->findChild<QLineEdit*>(QLatin1String(nombre));
