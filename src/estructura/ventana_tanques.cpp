@@ -41,11 +41,12 @@ void VentanaTanques::Command3_Click() {
 }
 
 void VentanaTanques::tomarTanqueLeido() {
-  // the row is painted first: the length of a basin without a Froude number fails
   pintarTabla(Grid1.tabla, filaElegida(estado_));
   Grid1.cambiado();
-  if (!longitudPoza(estado_, parametros_))
-    dialogos_.fallo("El proyecto no indica un tipo de tanque de la tabla (1 a 6)");
+  // a length that fails follows from a calculation that has failed, and that was told already
+  bool deLaTabla = true;
+  pasandoFallos([&] { deLaTabla = longitudPoza(estado_, parametros_); });
+  if (!deLaTabla) dialogos_.fallo("El proyecto no indica un tipo de tanque de la tabla (1 a 6)");
 }
 
 void VentanaTanques::vaciarTabla() {
