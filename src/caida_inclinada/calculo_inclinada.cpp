@@ -4,7 +4,6 @@
 #include "estructura/pasos.h"
 #include "hidraulica/resalto.h"
 #include "hidraulica/solvers.h"
-#include "hidraulica/transicion.h"
 #include "poza/tabla_tanques.h"
 
 namespace calvento {
@@ -142,17 +141,11 @@ bool regimenSubcritico(DesignState& e, const Form2& p, PantallaInclinada& pantal
 }
 
 void LONGTRANSENTRADA(DesignState& e) {
-  e.espejoArriba = 2 * e.zArriba * e.hArriba + e.bArriba;
-  e.espejoRapida = 2 * e.zPozaCaida * e.hArriba + e.bEntradaCaida;
-  e.longTransEntrada = longitudTransicion(e.espejoArriba, e.espejoRapida, e.anguloTransicion);
-  e.longTransEntrada = enRejilla(e.longTransEntrada);
+  calcularTransicionEntrada(e, 2 * e.zArriba * e.hArriba + e.bArriba, 2 * e.zPozaCaida * e.hArriba + e.bEntradaCaida);
 }
 
 void LONGTRANSSALIDA(DesignState& e) {
-  e.espejoPoza = 2 * e.zPozaCaida * e.hPoza + e.bPozaCaida;
-  e.espejoAbajo = 2 * e.zAbajo * e.hAbajo + e.bAbajo;
-  e.longTransSalida = longitudTransicion(e.espejoPoza, e.espejoAbajo, e.anguloTransicion);
-  ajustarTransicionSalida(e.longTransSalida);
+  calcularTransicionSalida(e, 2 * e.zPozaCaida * e.hPoza + e.bPozaCaida, 2 * e.zAbajo * e.hAbajo + e.bAbajo, true);
 }
 
 void alturas(DesignState& e, const Form2& p) {

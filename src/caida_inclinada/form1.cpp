@@ -3,7 +3,6 @@
 #include "comun/numeros.h"
 #include "estructura/pasos.h"
 #include "hidraulica/anchos.h"
-#include "hidraulica/solvers.h"
 #include "plataforma/campos.h"
 
 namespace calvento {
@@ -46,13 +45,11 @@ void Form1::SECONTROL() {
   }
   if (!(e.frArriba < 1)) return;
   vistaControl();
-  Real b = 0, z = 0, vc = 0, E0 = 0, Ec = 0;
+  Real b = 0, z = 0, E0 = 0;
   pasandoFallos([&] { b = Val(Text23.Text); });
   pasandoFallos([&] { z = Val(Text24.Text); });
   pasandoFallos([&] { E0 = energiaEspecifica(v, e.ynArriba); });
-  pasandoFallos([&] { e.ycControl = YCRITICO(e.Q, b, z); });
-  pasandoFallos([&] { vc = e.Q / Seccion{b, z}.area(e.ycControl); });
-  pasandoFallos([&] { Ec = energiaEspecifica(vc, e.ycControl); });
+  const Real Ec = vistaEnergiaCritica(b, z);
   pasandoFallos([&] { Label27.Caption = texto(Round(E0 - Ec, 3)); });
   pasandoFallos([&] { e.sobreelevacion = Round(E0 - Ec, 3); });
 }
@@ -62,10 +59,7 @@ bool Form1::calcular() {
   leerCanalArriba();
   leer(Text23, &D::bPozaCaida);
   leer(Text24, &D::zPozaCaida);
-  leer(Text16, &D::bAbajo);
-  leer(Text18, &D::zAbajo);
-  leer(Text19, &D::nAbajo);
-  leer(Text20, &D::sAbajo);
+  leerCanalAbajo();
   leer(Text2, &D::cotaFin);
   leer(Text4, &D::cotaAbajo);
   leer(Text21, &D::zRampaEntrada);

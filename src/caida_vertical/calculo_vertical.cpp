@@ -3,7 +3,6 @@
 #include "comun/numeros.h"
 #include "estructura/pasos.h"
 #include "hidraulica/solvers.h"
-#include "hidraulica/transicion.h"
 
 namespace calvento {
 
@@ -77,18 +76,12 @@ void pozaYTrayectoria(DesignState& e) {
 }
 
 void LONGTRANSENTRADA(DesignState& e) {
-  e.espejoArriba = 2 * e.zArriba * e.ynArriba + e.bArriba;
-  e.espejoRapida = e.bPozaCaida;
-  e.longTransEntrada = longitudTransicion(e.espejoArriba, e.espejoRapida, e.anguloTransicion);
-  e.longTransEntrada = enRejilla(e.longTransEntrada);
+  calcularTransicionEntrada(e, 2 * e.zArriba * e.ynArriba + e.bArriba, e.bPozaCaida);
 }
 
 /// No least length here, unlike in the other two structures.
 void LONGTRANSSALIDA(DesignState& e) {
-  e.espejoPoza = anchoTotal(e);
-  e.espejoAbajo = 2 * e.zAbajo * e.ynAbajo + e.bAbajo;
-  e.longTransSalida = longitudTransicion(e.espejoPoza, e.espejoAbajo, e.anguloTransicion);
-  e.longTransSalida = enRejilla(e.longTransSalida);
+  calcularTransicionSalida(e, anchoTotal(e), 2 * e.zAbajo * e.ynAbajo + e.bAbajo, false);
 }
 
 void espejos(DesignState& e) {

@@ -80,20 +80,10 @@ void Form16::SECONTROL() {
   pasandoFallos([&] { leer(Text5, &DesignState::Q); });
   vistaCanalArriba(true);
   pasandoFallos([&] { sbStatusBar.Panel1 = textoAnchoSugerido(e.Q, energiaEspecifica(e.vArriba, e.ynArriba)); });
-  if (e.frArriba > 1) {
-    Frame1.Visible = false;
-    Label41.Caption = notaRapido;
-    return;
-  }
-  if (!(e.frArriba < 1)) return;
-  Frame1.Visible = true;
-  Label41.Caption = "";
+  if (!vistaRegimen()) return;
   // the velocity head of the canal is left out of this rise, unlike in the inclined drop
   const Real H = e.ynArriba;
-  Real v = 0, Ec = 0;
-  pasandoFallos([&] { e.ycControl = YCRITICO(e.Q, B, 0); });
-  pasandoFallos([&] { v = e.Q / (e.ycControl * B); });
-  pasandoFallos([&] { Ec = energiaEspecifica(v, e.ycControl); });
+  const Real Ec = vistaEnergiaCritica(B, 0);
   pasandoFallos([&] { Label48.Caption = texto(Round(H - Ec, 3)); });
   pasandoFallos([&] { e.sobreelevacion = Round(H - Ec, 3); });
 }
@@ -102,10 +92,7 @@ bool Form16::calcular() {
   using D = DesignState;
   leerCanalArriba();
   leer(Text23, &D::bPozaCaida);
-  leer(Text16, &D::bAbajo);
-  leer(Text18, &D::zAbajo);
-  leer(Text19, &D::nAbajo);
-  leer(Text20, &D::sAbajo);
+  leerCanalAbajo();
   leer(Text2, &D::cotaFin);
   leer(Text4, &D::cotaAbajo);
   leer(Text22, &D::zRampaSalida);

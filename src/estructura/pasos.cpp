@@ -1,6 +1,7 @@
 #include "estructura/pasos.h"
 
 #include "hidraulica/solvers.h"
+#include "hidraulica/transicion.h"
 
 namespace calvento {
 
@@ -20,6 +21,22 @@ void calcularCanalArriba(DesignState& e, const TextBox& bordoLibre, bool enRejil
 void calcularCanalAbajo(DesignState& e) {
   e.ynAbajo = YNORMAL(e.Q, e.bAbajo, e.zAbajo, e.nAbajo, e.sAbajo);
   e.vAbajo = e.Q / Seccion{e.bAbajo, e.zAbajo}.area(e.ynAbajo);
+}
+
+void calcularTransicionEntrada(DesignState& e, Real espejoCanal, Real espejoEstructura) {
+  e.espejoArriba = espejoCanal;
+  e.espejoRapida = espejoEstructura;
+  e.longTransEntrada = longitudTransicion(e.espejoArriba, e.espejoRapida, e.anguloTransicion);
+  e.longTransEntrada = enRejilla(e.longTransEntrada);
+}
+
+void calcularTransicionSalida(DesignState& e, Real espejoPoza, Real espejoCanal, bool conMinimo) {
+  e.espejoPoza = espejoPoza;
+  e.espejoAbajo = espejoCanal;
+  e.longTransSalida = longitudTransicion(e.espejoPoza, e.espejoAbajo, e.anguloTransicion);
+  // the threshold and the length built instead differ on purpose
+  if (conMinimo && e.longTransSalida < Single(0.15)) e.longTransSalida = 0.5;
+  e.longTransSalida = enRejilla(e.longTransSalida);
 }
 
 Real nivelEnergia(Real velocidad, Real cota, Real tirante) { return velocidad * velocidad / dosG + cota + tirante; }

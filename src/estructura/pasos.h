@@ -19,6 +19,13 @@ void calcularCanalArriba(DesignState& estado, const TextBox& bordoLibre, bool en
 /// Downstream canal: normal depth and velocity.
 void calcularCanalAbajo(DesignState& estado);
 
+/// Entry transition between the canal and the structure: keeps both top widths and the length between them, on the
+/// grid.
+void calcularTransicionEntrada(DesignState& estado, Real espejoCanal, Real espejoEstructura);
+
+/// Outlet transition between basin and canal, the same way. `conMinimo`: one shorter than 0.15 m is built as 0.5 m.
+void calcularTransicionSalida(DesignState& estado, Real espejoPoza, Real espejoCanal, bool conMinimo);
+
 /// Energy level of a section, m: velocity head, bed elevation and depth.
 Real nivelEnergia(Real velocidad, Real cota, Real tirante);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "comun/numeros.h"
+#include "estructura/pasos.h"
 #include "hidraulica/solvers.h"
 #include "plataforma/campos.h"
 
@@ -65,6 +66,14 @@ void VentanaEstructura::leerCanalArriba() {
   leer(Text9, &D::sArriba);
 }
 
+void VentanaEstructura::leerCanalAbajo() {
+  using D = DesignState;
+  leer(Text16, &D::bAbajo);
+  leer(Text18, &D::zAbajo);
+  leer(Text19, &D::nAbajo);
+  leer(Text20, &D::sAbajo);
+}
+
 Evento VentanaEstructura::abre(const char* ventana) {
   return [this, ventana] { navegador_.mostrar(ventana); };
 }
@@ -125,6 +134,28 @@ Real VentanaEstructura::vistaCanalArriba(bool guardarVelocidad) {
   pasandoFallos([&] { T = canal.espejo(e.ynArriba); });
   pasandoFallos([&] { e.frArriba = v / Sqr(gravedad * A / T); });
   return v;
+}
+
+bool VentanaEstructura::vistaRegimen() {
+  if (estado_.frArriba > 1) {
+    Frame1.Visible = false;
+    Label41.Caption = notaRapido;
+    return false;
+  }
+  if (!(estado_.frArriba < 1)) return false;
+  Frame1.Visible = true;
+  Label41.Caption = "";
+  return true;
+}
+
+Real VentanaEstructura::vistaEnergiaCritica(Real b, Real z) {
+  DesignState& e = estado_;
+  Real A = 0, v = 0, E = 0;
+  pasandoFallos([&] { e.ycControl = YCRITICO(e.Q, b, z); });
+  pasandoFallos([&] { A = Seccion{b, z}.area(e.ycControl); });
+  pasandoFallos([&] { v = e.Q / A; });
+  pasandoFallos([&] { E = energiaEspecifica(v, e.ycControl); });
+  return E;
 }
 
 }  // namespace calvento

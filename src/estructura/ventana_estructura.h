@@ -77,6 +77,7 @@ class VentanaEstructura : public VentanaDatos {
   void leer(const TextBox& campo, Single DesignState::*valor);
   /// Reads Q and both canals' fields in the order of the windows: first the upstream canal.
   void leerCanalArriba();
+  void leerCanalAbajo();
   /// Opens a window from a menu.
   Evento abre(const char* ventana);
   void habilitar(std::initializer_list<Menu*> menus, bool activos);
@@ -91,6 +92,11 @@ class VentanaEstructura : public VentanaDatos {
   /// The first half of the live preview: reads Q and the upstream canal and finds normal depth and Froude number,
   /// passing over what fails. Returns the velocity; the record's vArriba takes it only where told.
   Real vistaCanalArriba(bool guardarVelocidad);
+  /// The regime of the canal in the window: the note of a fast canal, or the group of the control section. Returns
+  /// whether a control section stands; at a Froude number of exactly 1 nothing changes.
+  bool vistaRegimen();
+  /// Energy at critical depth in a section of width b and side slope z, whose depth the record takes as ycControl.
+  Real vistaEnergiaCritica(Real b, Real z);
   bool algunoVacio(std::initializer_list<const TextBox*> campos) const;
 
   DesignState& estado_;

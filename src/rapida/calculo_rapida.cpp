@@ -4,7 +4,6 @@
 #include "estructura/pasos.h"
 #include "hidraulica/resalto.h"
 #include "hidraulica/solvers.h"
-#include "hidraulica/transicion.h"
 #include "poza/tabla_tanques.h"
 
 namespace calvento {
@@ -38,17 +37,11 @@ bool comprobarRegimen(DesignState& e, PantallaRapida& pantalla, Single& y0) {
 /// Runs before the reaches are computed, so hRapida is still that of the former calculation: a second one can give
 /// another length.
 void LONGTRANSENTRADA(DesignState& e) {
-  e.espejoArriba = 2 * e.zArriba * e.hArriba + e.bArriba;
-  e.espejoRapida = 2 * e.zRapida * e.hRapida + e.bRapida;
-  e.longTransEntrada = longitudTransicion(e.espejoArriba, e.espejoRapida, e.anguloTransicion);
-  e.longTransEntrada = enRejilla(e.longTransEntrada);
+  calcularTransicionEntrada(e, 2 * e.zArriba * e.hArriba + e.bArriba, 2 * e.zRapida * e.hRapida + e.bRapida);
 }
 
 void LONGTRANSSALIDA(DesignState& e) {
-  e.espejoPoza = 2 * e.zPoza * e.hPoza + e.bPoza;
-  e.espejoAbajo = 2 * e.zAbajo * e.hAbajo + e.bAbajo;
-  e.longTransSalida = longitudTransicion(e.espejoPoza, e.espejoAbajo, e.anguloTransicion);
-  ajustarTransicionSalida(e.longTransSalida);
+  calcularTransicionSalida(e, 2 * e.zPoza * e.hPoza + e.bPoza, 2 * e.zAbajo * e.hAbajo + e.bAbajo, true);
 }
 
 void finDeRapida(DesignState& e, Single y0) {

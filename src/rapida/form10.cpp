@@ -1,8 +1,8 @@
 #include "rapida/form10.h"
 
 #include "comun/numeros.h"
+#include "estructura/pasos.h"
 #include "hidraulica/anchos.h"
-#include "hidraulica/solvers.h"
 #include "plataforma/campos.h"
 
 namespace calvento {
@@ -72,22 +72,12 @@ void Form10::SECONTROL() {
   // this text differs by a little from the one shown while the discharge is typed, on purpose
   pasandoFallos([&] { sbStatusBar.Panel1 = "Ancho canal rápida calculado(b): " + texto(Round(anchoRapida(e.Q), 3)); });
   vistaCanalArriba(true);
-  if (e.frArriba > 1) {
-    Frame1.Visible = false;
-    Label41.Caption = notaRapido;
-    return;
-  }
-  if (!(e.frArriba < 1)) return;
-  Frame1.Visible = true;
-  Label41.Caption = "";
-  Real E1 = 0, z = 0, b = 0, A = 0, v = 0, E2 = 0;
-  pasandoFallos([&] { E1 = e.vArriba * e.vArriba / dosG + e.ynArriba; });
+  if (!vistaRegimen()) return;
+  Real E1 = 0, z = 0, b = 0;
+  pasandoFallos([&] { E1 = energiaEspecifica(e.vArriba, e.ynArriba); });
   pasandoFallos([&] { z = Val(Text11.Text); });
   pasandoFallos([&] { b = Val(Text10.Text); });
-  pasandoFallos([&] { e.ycControl = YCRITICO(e.Q, b, z); });
-  pasandoFallos([&] { A = e.ycControl * (b + z * e.ycControl); });
-  pasandoFallos([&] { v = e.Q / A; });
-  pasandoFallos([&] { E2 = e.ycControl + v * v / dosG; });
+  const Real E2 = vistaEnergiaCritica(b, z);
   pasandoFallos([&] { e.sobreelevacion = Round(E1 - E2, 3); });
   pasandoFallos([&] { Label27.Caption = texto(Round(e.sobreelevacion, 3)); });
 }
@@ -101,10 +91,7 @@ void Form10::leerCampos() {
   leer(Text13, &D::sTramo1);
   leer(Text15, &D::sTramo2);
   leer(Text14, &D::sTramo3);
-  leer(Text16, &D::bAbajo);
-  leer(Text18, &D::zAbajo);
-  leer(Text19, &D::nAbajo);
-  leer(Text20, &D::sAbajo);
+  leerCanalAbajo();
   leer(Text23, &D::bPoza);
   leer(Text24, &D::zPoza);
   leer(Text1, &D::cotaInicio);

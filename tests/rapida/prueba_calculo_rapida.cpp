@@ -2,7 +2,7 @@
 #include <random>
 
 #include "apoyo/mesa_rapida.h"
-#include "hidraulica/transicion.h"
+#include "estructura/pasos.h"
 
 namespace calvento {
 namespace {
@@ -207,11 +207,12 @@ TEST(ChuteCalculation, TransitionsByHandAndAtTheSecondPress) {
   const struct {
     double calculada;
     float construida;
-  } casos[] = {{0, 0.5F}, {0.1, 0.5F}, {0.1499, 0.5F}, {0.15, 0.15F}, {0.172, 0.15F}, {0.52, 0.5F}, {0.53, 0.55F}};
+  } casos[] = {{0, 0.5F}, {0.1, 0.5F}, {0.1499, 0.5F}, {0.1501, 0.15F}, {0.172, 0.15F}, {0.52, 0.5F}, {0.53, 0.55F}};
   for (const auto& c : casos) {
-    Single longitud = c.calculada;
-    ajustarTransicionSalida(longitud);
-    EXPECT_FLOAT_EQ(longitud.valor(), c.construida) << c.calculada;
+    DesignState e;
+    e.anguloTransicion = 45;  // half the difference of the widths, but for the short value of pi
+    calcularTransicionSalida(e, 0, 2 * c.calculada, true);
+    EXPECT_FLOAT_EQ(e.longTransSalida.valor(), c.construida) << c.calculada;
   }
   m.form2.Text9.Text = "0";
   m.dialogos.esperaFallo("División por cero: Ingresar datos correctamente, verificar");
