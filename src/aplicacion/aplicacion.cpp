@@ -8,6 +8,7 @@
 #include "caida_inclinada/form1.h"
 #include "caida_vertical/form16.h"
 #include "comun/fallo.h"
+#include "dibujo/form3.h"
 #include "hidraulica/form14.h"
 #include "hidraulica/form15.h"
 #include "modelo/archivo_proyecto.h"
@@ -24,6 +25,7 @@ const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
       {"frmMain", [](Aplicacion& a) { return std::make_unique<frmMain>(a, a.dialogos_); }},
       {"frmAbout", [](Aplicacion& a) { return std::make_unique<frmAbout>(a); }},
       {"Form2", [](Aplicacion& a) { return std::make_unique<Form2>(a); }},
+      {"Form3", [](Aplicacion& a) { return std::make_unique<Form3>(a.estado, a); }},
       {"Form14", [](Aplicacion& a) { return std::make_unique<Form14>(a.estado, a.dialogos_, a); }},
       {"Form15", [](Aplicacion& a) { return std::make_unique<Form15>(a.estado, a.dialogos_, a); }},
       {"Form1", [](Aplicacion& a) { return std::make_unique<Form1>(a.estado, a.form2(), a.dialogos_, a); }},

@@ -24,6 +24,7 @@ Estructura rapida() {
       {"Label41", "Label35"},
       {"mngrafico", "mntabla", "mntanque", "mnst", "mntperfil", "mntrayectoria", "mnformondas"},
       {{"mntperfil", "Form11"}, {"mntrayectoria", "Form8"}},
+      "Form3",
       {
           {"Caudal", {{"Q", "Text5", "m³/s"}}},
           canalArriba(),
@@ -74,6 +75,7 @@ Estructura caidaInclinada() {
       {"Label41", "Label29"},
       {"mngrafico", "mnst", "mntabla", "mntanque"},
       {},
+      "Form4",
       {
           {"Caudal", {{"Q", "Text5", "m³/s"}}},
           canalArriba(),
@@ -118,6 +120,7 @@ Estructura caidaVertical() {
       {"Label41"},
       {"mngrafico", "mnseccion", "mntanque"},
       {},
+      "Form17",
       {
           {"Caudal", {{"Q", "Text5", "m³/s"}}},
           canalArriba(),

@@ -59,6 +59,12 @@ std::string enEspanol(const CLI::ParseError& error, const CLI::App& programa) {
   return std::string("opción errónea: ") + error.what();
 }
 
+/// One file cannot hold the results of several projects.
+void comprobarArchivoDeSalida(const Opciones& o, const char* opcion, const std::string& archivo) {
+  if (o.archivos.size() > 1 && !archivo.empty() && archivo.find("{}") == std::string::npos)
+    throw OpcionErronea(std::string(opcion) + ": con más de un proyecto, el nombre debe contener {}");
+}
+
 }  // namespace
 
 std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* argv) {
@@ -95,6 +101,14 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
   programa.add_option("--veces", veces, "Calcula N veces más al final")->type_name("N");
   programa.add_option("--responder", responder, "Respuesta a toda pregunta; si, mientras no se diga otra cosa")
       ->type_name("si|no");
+  programa
+      .add_option("--dibujo", o.dibujo,
+                  "Guarda el dibujo de la estructura como SVG, PDF o PNG, por la\n"
+                  "extensión. En el nombre, {} es el nombre del proyecto: hace falta\n"
+                  "con más de un proyecto")
+      ->type_name("ARCHIVO");
+  programa.add_option("--vista", o.vista, "Vista del dibujo; vistaTodo, mientras no se diga otra cosa")
+      ->type_name("NOMBRE");
 
   try {
     programa.parse(argc, argv);
@@ -108,6 +122,7 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
   for (const std::string& c : campos) o.campos.push_back(comoAsignacion(c));
   o.veces = comoVeces(veces);
   o.responder = comoRespuesta(responder);
+  comprobarArchivoDeSalida(o, "--dibujo", o.dibujo);
   return o;
 }
 

@@ -20,6 +20,8 @@ struct Opciones {
   std::vector<Asignacion> campos;
   int veces = 0;          ///< presses of Command3 beyond the necessary ones
   bool responder = true;  ///< the answer to every question, true for yes
+  std::string dibujo;     ///< file of the drawing; "{}" stands for the project's name; empty for none
+  std::string vista = "vistaTodo";
 };
 
 /// A command line that cannot be carried out; what() is a Spanish text for the user.

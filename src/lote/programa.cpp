@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "lote/campos.h"
+#include "lote/dibujo.h"
 #include "lote/json.h"
 #include "lote/opciones.h"
 #include "lote/resumen.h"
@@ -14,14 +15,25 @@ namespace {
 
 enum Estado { calculados = 0, algunoNo = 1, errores = 2 };
 
+/// The files asked for beside the text. One that cannot be written is an error of the command, not of the design.
+Estado exportar(Sesion& sesion, const Opciones& opciones, std::ostream& err) {
+  try {
+    if (!opciones.dibujo.empty()) exportarDibujoDe(sesion, opciones);
+    return calculados;
+  } catch (const std::exception& fallo) {
+    err << sesion.archivo() << ": " << fallo.what() << '\n';
+    return errores;
+  }
+}
+
 Estado tratar(const Opciones& opciones, const std::string& archivo, std::ostream& salida, std::ostream& err) {
   try {
-    const Sesion sesion(opciones, archivo);
+    Sesion sesion(opciones, archivo);
     if (opciones.json)
       salida << comoJson(sesion) << '\n';
     else
       salida << comoResumen(sesion);
-    if (sesion.calculado()) return calculados;
+    if (sesion.calculado()) return exportar(sesion, opciones, err);
     if (sesion.mensajes().empty()) err << archivo << ": no se calculó hasta el final\n";
     for (const Mensaje& m : sesion.mensajes()) err << archivo << ": " << enUnaLinea(m) << '\n';
     return sesion.accesible() ? algunoNo : errores;

@@ -82,6 +82,8 @@ class Sesion {
   const DesignState& estado() const { return estado_; }
   /// The result windows whose menus are enabled.
   const std::vector<ReporteAbierto>& reportes() const { return reportes_; }
+  /// The running program, whose result windows can be loaded.
+  Aplicacion& aplicacion() { return aplicacion_; }
 
  private:
   void ejecutar(const Opciones& opciones);

@@ -10,6 +10,7 @@
 #include "ui_Form14.h"
 #include "ui_Form15.h"
 #include "ui_Form2.h"
+#include "ui_Form3.h"
 #include "ui_Form8.h"
 #include "ui_frmAbout.h"
 #include "ui_frmMain.h"
@@ -27,6 +28,7 @@ constexpr std::array ventanas_ui = {
     VentanaUi{"frmMain", Puesto::principal, construir<Ui::frmMain>},
     VentanaUi{"frmAbout", Puesto::suelta, construir<Ui::frmAbout>},
     VentanaUi{"Form2", Puesto::hija, construir<Ui::Form2>},
+    VentanaUi{"Form3", Puesto::hija, construir<Ui::Form3>},
     VentanaUi{"Form10", Puesto::hija, construir<Ui::Form10>},
     VentanaUi{"Form14", Puesto::hija, construir<Ui::Form14>},
     VentanaUi{"Form15", Puesto::hija, construir<Ui::Form15>},

@@ -1,0 +1,30 @@
+#include "lote/dibujo.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <stdexcept>
+
+#include "dibujo/marco_dibujo.h"
+#include "qt/exportar_dibujo.h"
+
+namespace calvento::lote {
+
+std::string archivoDeSalida(const std::string& patron, const std::string& proyecto) {
+  std::string archivo = patron;
+  const std::size_t lugar = archivo.find("{}");
+  if (lugar != std::string::npos) archivo.replace(lugar, 2, std::filesystem::path(proyecto).stem().string());
+  return archivo;
+}
+
+void exportarDibujoDe(Sesion& sesion, const Opciones& opciones) {
+  auto* ventana = sesion.aplicacion().cargar<MarcoDibujo>(sesion.estructura()->ventanaDibujo);
+  if (ventana == nullptr) throw std::runtime_error("el dibujo no se pudo hacer");
+  if (!ventana->ver(opciones.vista)) {
+    std::string vistas;
+    for (const std::string_view v : ventana->vistas()) vistas += (vistas.empty() ? "" : ", ") + std::string(v);
+    throw OpcionErronea("--vista " + opciones.vista + ": el dibujo tiene las vistas " + vistas);
+  }
+  exportarDibujo(ventana->GRAF.lienzo, archivoDeSalida(opciones.dibujo, sesion.archivo()));
+}
+
+}  // namespace calvento::lote

@@ -1,0 +1,67 @@
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "corrida.h"
+
+namespace calvento::lote {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Dibujo : public ::testing::Test {
+ protected:
+  std::string ruta(const char* nombre) const { return carpeta.en(nombre); }
+  std::string proyecto(const char* nombre) const { return carpeta.escribir(nombre, ProyectoRapida().contenido()); }
+  const CarpetaPrueba carpeta;
+};
+
+TEST_F(Dibujo, EveryKindOfFileShowsTheView) {
+  const std::string canal = proyecto("canal.cvr");
+  ASSERT_EQ(correr({"--dibujo", ruta("todo.svg"), canal}).estado, 0);
+  const std::string todo = carpeta.leer("todo.svg");
+  EXPECT_NE(todo.find("SECCION LONGITUDINAL"), std::string::npos);
+  EXPECT_NE(todo.find("PLANTA"), std::string::npos);
+  ASSERT_EQ(correr({"--dibujo", ruta("tanque.svg"), "--vista", "vistaTanque", canal}).estado, 0);
+  EXPECT_NE(carpeta.leer("tanque.svg"), todo);
+  ASSERT_EQ(correr({"--dibujo", ruta("a.PDF"), canal}).estado, 0);
+  EXPECT_EQ(carpeta.leer("a.PDF").substr(0, 5), "%PDF-");
+  ASSERT_EQ(correr({"--dibujo", ruta("a.png"), canal}).estado, 0);
+  EXPECT_EQ(carpeta.leer("a.png").substr(1, 3), "PNG");
+}
+
+TEST_F(Dibujo, SeveralProjectsWantANameEach) {
+  const std::string uno = proyecto("uno.cvr");
+  const std::string dos = proyecto("dos.cvr");
+  const Corrida mal = correr({"--dibujo", ruta("x.svg"), uno, dos});
+  EXPECT_EQ(mal.estado, 2);
+  EXPECT_TRUE(mal.salida.empty());
+  EXPECT_EQ(correr({"--dibujo", ruta("{}.svg"), uno, dos}).estado, 0);
+  EXPECT_TRUE(fs::exists(ruta("uno.svg")));
+  EXPECT_TRUE(fs::exists(ruta("dos.svg")));
+}
+
+TEST_F(Dibujo, WhatCannotBeDrawnIsTold) {
+  const std::string canal = proyecto("canal.cvr");
+  const struct {
+    std::vector<std::string> opciones;
+    int estado;
+    const char* dice;
+  } casos[] = {
+      {{"--dibujo", ruta("x.svg"), "--vista", "vistaLateral"}, 2, "vistaTanque"},
+      {{"--dibujo", ruta("x.bmp")}, 2, "x.bmp"},
+      {{"--dibujo", ruta("no/hay/x.svg")}, 2, "x.svg"},
+      // a chute that flows slowly is not calculated to its end: there is no drawing
+      {{"--dibujo", ruta("x.svg"), "--campo", "Form10.Text13=0.0001"}, 1, "SUB CRITICO"},
+  };
+  for (const auto& c : casos) {
+    std::vector<std::string> argumentos = c.opciones;
+    argumentos.push_back(canal);
+    const Corrida corrida = correr(argumentos);
+    EXPECT_EQ(corrida.estado, c.estado) << c.dice;
+    EXPECT_NE(corrida.errores.find(c.dice), std::string::npos) << corrida.errores;
+    EXPECT_FALSE(fs::exists(ruta("x.svg"))) << c.dice;
+  }
+}
+
+}  // namespace
+}  // namespace calvento::lote
