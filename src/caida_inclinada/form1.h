@@ -24,11 +24,11 @@ class Form1 : public VentanaTanques, private PantallaInclinada {
   Label Label57{*this, "Label57", "de control"};
   Label Label6{*this, "Label6", "Transición"};
   Label Label40{*this, "Label40", "de entrada"};
-  Label Label7{*this, "Label7", "Yc"};
-  Label Label18{*this, "Label18", "Δh"};
-  Label Label19{*this, "Label19", "3.5 Yc"};
-  Label Label35{*this, "Label35", "Yn"};
-  Label Label36{*this, "Label36", "So"};
+  Label Label7{*this, "Label7", "Y"};
+  Label Label18{*this, "Label18", "c"};
+  Label Label19{*this, "Label19", "Δh"};
+  Label Label35{*this, "Label35", "Y"};
+  Label Label36{*this, "Label36", "n"};
   Label Label45{*this, "Label45", "R"};
   Label Label46{*this, "Label46", "So"};
 

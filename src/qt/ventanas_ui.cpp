@@ -5,11 +5,14 @@
 
 #include <QMainWindow>
 
+#include "ui_Form1.h"
 #include "ui_Form10.h"
 #include "ui_Form11.h"
 #include "ui_Form14.h"
 #include "ui_Form15.h"
+#include "ui_Form16.h"
 #include "ui_Form2.h"
+#include "ui_Form25.h"
 #include "ui_Form3.h"
 #include "ui_Form8.h"
 #include "ui_frmAbout.h"
@@ -27,11 +30,14 @@ void construir(QMainWindow& vista) {
 constexpr std::array ventanas_ui = {
     VentanaUi{"frmMain", Puesto::principal, construir<Ui::frmMain>},
     VentanaUi{"frmAbout", Puesto::suelta, construir<Ui::frmAbout>},
+    VentanaUi{"Form1", Puesto::hija, construir<Ui::Form1>},
     VentanaUi{"Form2", Puesto::hija, construir<Ui::Form2>},
     VentanaUi{"Form3", Puesto::hija, construir<Ui::Form3>},
     VentanaUi{"Form10", Puesto::hija, construir<Ui::Form10>},
     VentanaUi{"Form14", Puesto::hija, construir<Ui::Form14>},
     VentanaUi{"Form15", Puesto::hija, construir<Ui::Form15>},
+    VentanaUi{"Form16", Puesto::hija, construir<Ui::Form16>},
+    VentanaUi{"Form25", Puesto::hija, construir<Ui::Form25>},
     VentanaUi{"Form11", Puesto::hija, construir<Ui::Form11>},
     VentanaUi{"Form8", Puesto::hija, construir<Ui::Form8>},
 };

@@ -2,18 +2,10 @@
 #include <gtest/gtest.h>
 #include <iterator>
 
-#include "corrida.h"
+#include "ejemplos.h"
 
 namespace calvento::lote {
 namespace {
-
-std::vector<std::string> ejemplos() {
-  std::vector<std::string> todos;
-  for (const auto& e : std::filesystem::directory_iterator(std::string(RAIZ_PROYECTO) + "/ejemplos"))
-    if (e.path().extension() == ".cvr") todos.push_back(e.path().string());
-  std::sort(todos.begin(), todos.end());
-  return todos;
-}
 
 class Ejemplo : public testing::TestWithParam<std::string> {};
 
@@ -52,20 +44,21 @@ TEST_P(Ejemplo, IsASoundDesign) {
   EXPECT_NEAR(momento(valor("y1")) / momento(valor("y2")), 1, 2e-3);
 }
 
-TEST_P(Ejemplo, IsWrittenAsTheProgramWrites) {
-  std::ifstream f(GetParam(), std::ios::binary);
-  const std::string s((std::istreambuf_iterator<char>(f)), {});
-  EXPECT_EQ(std::count(s.begin(), s.end(), '\n'), 37);
-  EXPECT_EQ(std::count(s.begin(), s.end(), '\r'), 37);
-  EXPECT_EQ(s.substr(s.size() - 2), "\r\n");
+INSTANTIATE_TEST_SUITE_P(, Ejemplo, testing::ValuesIn(ejemplos(".cvr")), nombreEjemplo);
+
+TEST(Ejemplos, AreWrittenAsTheProgramWrites) {
+  for (const auto& [extension, lineas] : {std::pair{".cvr", 37}, {".cvi", 28}, {".cvv", 24}})
+    for (const std::string& archivo : ejemplos(extension)) {
+      std::ifstream f(archivo, std::ios::binary);
+      const std::string s((std::istreambuf_iterator<char>(f)), {});
+      EXPECT_EQ(std::count(s.begin(), s.end(), '\n'), lineas) << archivo;
+      EXPECT_EQ(std::count(s.begin(), s.end(), '\r'), lineas) << archivo;
+      EXPECT_EQ(s.substr(s.size() - 2), "\r\n") << archivo;
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(, Ejemplo, testing::ValuesIn(ejemplos()), [](const auto& caso) {
-  return "n" + std::filesystem::path(caso.param).stem().string().substr(0, 2);
-});
-
 TEST(Ejemplos, CoverReachesBasinsAndDischarges) {
-  std::vector<std::string> argumentos = ejemplos();
+  std::vector<std::string> argumentos = ejemplos(".cvr");
   ASSERT_GE(argumentos.size(), 6U);
   argumentos.insert(argumentos.begin(), "--json");
   std::map<int, int> tramos;
