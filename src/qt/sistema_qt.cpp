@@ -149,12 +149,19 @@ void SistemaQt::presentar(Ventana& ventana) {
   QWidget* marco = abierta->marco;
   abierta->vista->show();
   marco->isMinimized() ? marco->showNormal() : marco->show();
+  traerAlFrente(marco);
+  // a menu that closes gives the focus back to its own window, which would come forward again
+  QTimer::singleShot(0, marco, [this, marco] { traerAlFrente(marco); });
+  if (nueva) enfocarPrimero(*abierta->vista);
+}
+
+void SistemaQt::traerAlFrente(QWidget* marco) {
+  if (!marco->isVisible()) return;
   marco->raise();
   if (auto* hija = qobject_cast<QMdiSubWindow*>(marco))
     area_->setActiveSubWindow(hija);
   else
     marco->activateWindow();
-  if (nueva) enfocarPrimero(*abierta->vista);
 }
 
 void SistemaQt::ocultar(Ventana& ventana) {

@@ -61,6 +61,7 @@ class SistemaQt : public QObject, public SistemaVentanas {
   void colocarPrincipal(QMainWindow& vista);
   QWidget* colocarHija(QMainWindow& vista);
   void colocarSuelta(QMainWindow& vista);
+  void traerAlFrente(QWidget* marco);
   void alCerrar(QObject* marco);
   void alPintarPrincipal();
 

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPointer>
@@ -76,6 +77,23 @@ TEST_F(EnElEscritorio, UnaVentanaAbiertaSeTraeAlFrente) {
   EXPECT_EQ(area->activeSubWindow(), programa.sistema.marco("Form14"));
   EXPECT_EQ(area->subWindowList().size(), 2);
   EXPECT_EQ(campo("Form14", "Text1")->text(), "3.5");
+}
+
+TEST_F(EnElEscritorio, LaVentanaQueAbreUnMenuQuedaDelante) {
+  elegir("frmMain", "mnrapida");
+  QMainWindow* rapida = vista("Form10");
+  campo("Form10", "Text5")->setFocus();
+  auto* parametros = rapida->findChild<QAction*>("mnparam");
+  auto* menu = rapida->findChild<QMenu*>("mnopciones");
+  ASSERT_NE(menu, nullptr);
+  QTest::mouseClick(rapida->menuBar(), Qt::LeftButton, {},
+                    rapida->menuBar()->actionGeometry(menu->menuAction()).center());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return menu->isVisible(); }));
+  QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(parametros).center());
+  QTest::qWait(50);
+  auto* area = vista("frmMain")->findChild<QMdiArea*>();
+  EXPECT_EQ(area->activeSubWindow(), programa.sistema.marco("Form2"));
+  EXPECT_EQ(area->subWindowList(QMdiArea::StackingOrder).last(), programa.sistema.marco("Form2"));
 }
 
 TEST_F(EnElEscritorio, DescargadaVuelveNuevaYOcultadaConSusTextos) {
