@@ -3,6 +3,7 @@
 #include <array>
 
 #include "comun/numeros.h"
+#include "poza/reglas_bloques.h"
 
 namespace calvento {
 
@@ -143,9 +144,7 @@ void LONGPOZA(DesignState& estado, const Form2& parametros, Dialogos& dialogos) 
   if (!longitudPoza(estado, parametros)) dialogos.aviso("Seleccione el Tipo de Tanque Amortiguador a utilizar");
 }
 
-bool tieneBloques(const DesignState& e) {
-  return e.tipoTanque == 2 || e.tipoTanque == 3 || e.tipoTanque == 4 || e.tipoTanque == 5;
-}
+bool tieneBloques(const DesignState& e) { return tanqueConBloques(e.tipoTanque).has_value(); }
 
 void pintarTabla(Rejilla& tabla, int filaElegida) {
   for (int c = 0; c < tabla.columnas(); ++c) {
