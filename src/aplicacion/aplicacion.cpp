@@ -13,6 +13,10 @@
 #include "hidraulica/form15.h"
 #include "modelo/archivo_proyecto.h"
 #include "plataforma/ventana_datos.h"
+#include "poza/form21.h"
+#include "poza/form22.h"
+#include "poza/form23.h"
+#include "poza/form5.h"
 #include "rapida/form10.h"
 #include "reportes/form11.h"
 #include "reportes/form8.h"
@@ -32,6 +36,10 @@ const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
       {"Form16", [](Aplicacion& a) { return std::make_unique<Form16>(a.estado, a.form25(), a.dialogos_, a); }},
       {"Form25", [](Aplicacion& a) { return std::make_unique<Form25>(a.estado, a); }},
       {"Form10", [](Aplicacion& a) { return std::make_unique<Form10>(a.estado, a.form2(), a.dialogos_, a); }},
+      {"Form22", [](Aplicacion& a) { return std::make_unique<Form22>(a.estado, a.form2(), a); }},
+      {"Form5", [](Aplicacion& a) { return std::make_unique<Form5>(a.estado, a.form2(), a); }},
+      {"Form21", [](Aplicacion& a) { return std::make_unique<Form21>(a.estado, a.form2(), a); }},
+      {"Form23", [](Aplicacion& a) { return std::make_unique<Form23>(a.estado, a.form2(), a); }},
       {"Form11", [](Aplicacion& a) { return std::make_unique<Form11>(a.estado, a); }},
       {"Form8", [](Aplicacion& a) { return std::make_unique<Form8>(a.estado, a); }},
   };

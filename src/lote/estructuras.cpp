@@ -15,6 +15,14 @@ Linea<Dato> elevacionesCaida() {
   return {"Elevaciones", {{"inicio de caída", "Text2", "m"}, {"salida", "Text4", "m"}}};
 }
 
+/// The reports of a structure with a basin table: the sheet of its basin type comes last.
+std::vector<Reporte> conHojaDeBloques(std::vector<Reporte> reportes) {
+  reportes.insert(
+      reportes.end(),
+      {{"mntabla", "Form22", 2}, {"mntabla", "Form5", 3}, {"mntabla", "Form21", 4}, {"mntabla", "Form23", 5}});
+  return reportes;
+}
+
 Estructura rapida() {
   using D = DesignState;
   return {
@@ -23,7 +31,7 @@ Estructura rapida() {
       {"Label27", "Label35", "Label41"},
       {"Label41", "Label35"},
       {"mngrafico", "mntabla", "mntanque", "mnst", "mntperfil", "mntrayectoria", "mnformondas"},
-      {{"mntperfil", "Form11"}, {"mntrayectoria", "Form8"}},
+      conHojaDeBloques({{"mntperfil", "Form11"}, {"mntrayectoria", "Form8"}}),
       "Form3",
       {
           {"Caudal", {{"Q", "Text5", "m³/s"}}},
@@ -74,7 +82,7 @@ Estructura caidaInclinada() {
       {"Label27", "Label29", "Label41"},
       {"Label41", "Label29"},
       {"mngrafico", "mnst", "mntabla", "mntanque"},
-      {},
+      conHojaDeBloques({}),
       "Form4",
       {
           {"Caudal", {{"Q", "Text5", "m³/s"}}},

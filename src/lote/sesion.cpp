@@ -62,7 +62,8 @@ void Sesion::abrirReportes() {
     if (menu == nullptr || !menu->Enabled) continue;
     if (r.tipoTanque != 0 && !(estado_.tipoTanque == r.tipoTanque)) continue;
     dialogos_.mensajes.clear();
-    const Ventana* reporte = aplicacion_.cargar(r.ventana);
+    disparar(menu->Click);  // which may bring the record into the form that the window reads
+    const Ventana* reporte = aplicacion_.cargada(r.ventana);
     std::string fallo;
     for (const Mensaje& m : dialogos_.mensajes)
       if (m.tipo == Mensaje::Tipo::fallo) fallo = m.texto;

@@ -12,8 +12,12 @@
 #include "ui_Form15.h"
 #include "ui_Form16.h"
 #include "ui_Form2.h"
+#include "ui_Form21.h"
+#include "ui_Form22.h"
+#include "ui_Form23.h"
 #include "ui_Form25.h"
 #include "ui_Form3.h"
+#include "ui_Form5.h"
 #include "ui_Form8.h"
 #include "ui_frmAbout.h"
 #include "ui_frmMain.h"
@@ -38,6 +42,10 @@ constexpr std::array ventanas_ui = {
     VentanaUi{"Form15", Puesto::hija, construir<Ui::Form15>},
     VentanaUi{"Form16", Puesto::hija, construir<Ui::Form16>},
     VentanaUi{"Form25", Puesto::hija, construir<Ui::Form25>},
+    VentanaUi{"Form22", Puesto::hija, construir<Ui::Form22>},
+    VentanaUi{"Form5", Puesto::hija, construir<Ui::Form5>},
+    VentanaUi{"Form21", Puesto::hija, construir<Ui::Form21>},
+    VentanaUi{"Form23", Puesto::hija, construir<Ui::Form23>},
     VentanaUi{"Form11", Puesto::hija, construir<Ui::Form11>},
     VentanaUi{"Form8", Puesto::hija, construir<Ui::Form8>},
 };

@@ -21,6 +21,7 @@ TEST_P(VentanaCompleta, SeEnlazaConSuDiseno) {
   Programa programa(dialogos);
   // reports need a design
   programa.aplicacion.cargar<VentanaDatos>("Form10")->abrir(RAIZ_PROYECTO "/ejemplos/04-tres-tramos.cvr");
+  programa.aplicacion.estado.bPozaCaida = programa.aplicacion.estado.bPoza;
   Ventana* ventana = programa.aplicacion.cargar(GetParam());
   ASSERT_NE(ventana, nullptr) << "no class";
   QMainWindow vista;
