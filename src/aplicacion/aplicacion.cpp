@@ -19,7 +19,9 @@
 #include "poza/form5.h"
 #include "rapida/form10.h"
 #include "reportes/form11.h"
+#include "reportes/form6.h"
 #include "reportes/form8.h"
+#include "reportes/ventana_verificacion.h"
 
 namespace calvento {
 
@@ -41,7 +43,11 @@ const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
       {"Form21", [](Aplicacion& a) { return std::make_unique<Form21>(a.estado, a.form2(), a); }},
       {"Form23", [](Aplicacion& a) { return std::make_unique<Form23>(a.estado, a.form2(), a); }},
       {"Form11", [](Aplicacion& a) { return std::make_unique<Form11>(a.estado, a); }},
+      {"Form6", [](Aplicacion& a) { return std::make_unique<Form6>(a.estado, a); }},
       {"Form8", [](Aplicacion& a) { return std::make_unique<Form8>(a.estado, a); }},
+      {"Form13", [](Aplicacion& a) { return std::make_unique<Form13>(a.estado, a.form2(), a.dialogos_, a); }},
+      {"Form7", [](Aplicacion& a) { return std::make_unique<Form7>(a.estado, a.form2(), a.dialogos_, a); }},
+      {"Form26", [](Aplicacion& a) { return std::make_unique<Form26>(a.estado, a); }},
   };
   return ventanas;
 }

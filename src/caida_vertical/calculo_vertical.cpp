@@ -2,6 +2,7 @@
 
 #include "comun/numeros.h"
 #include "estructura/pasos.h"
+#include "hidraulica/resalto.h"
 #include "hidraulica/solvers.h"
 
 namespace calvento {
@@ -27,15 +28,14 @@ void velocidadesResalto(DesignState& e) {
 void SINOBSTACULOS(DesignState& e, PantallaVertical& pantalla) {
   const Real h = e.cotaFin - e.cotaAbajo;
   const Real q = e.Q / e.bPozaCaida;
-  const Real D = q * q / (gravedad * cubo(h));
   pantalla.mostrarAnchoSugerido(textoAnchoSugerido(e.Q, energiaEspecifica(e.vArriba, e.ynArriba)));
-  const Real Ld = 4.3 * h * potencia(D, 0.27);
-  e.yVert94 = h * potencia(D, 0.22);
-  e.y1 = 0.54 * h * potencia(D, 0.425);
-  e.y2 = 1.66 * h * potencia(D, 0.27);
+  const CaidaLibre caida = caidaLibre(h, q);
+  e.yVert94 = h * potencia(caida.D, 0.22);
+  e.y1 = caida.y1;
+  e.y2 = caida.y2;
   velocidadesResalto(e);
   e.longPoza = (e.y2 - e.y1) * e.kLongPoza;
-  e.longRapida = Ld + e.longPoza;
+  e.longRapida = caida.Ld + e.longPoza;
 }
 
 /// Basin with a row of blocks under the jet (impact basin). Here the drop number is formed on the discharge that the
@@ -49,17 +49,14 @@ void CONOBSTACULOS(DesignState& e, PantallaVertical& pantalla) {
   e.y2 = 2.15 * e.yFin;
   const Real a = e.ynArriba - h;
   const Real nivel = a - e.y2;
-  const Real Xe = (Sqr(3.195 - 4.368 * nivel / c) - 0.406) * c;
-  const Real Xa = (Sqr(3.195 - 4.368 * a / c) - 0.406) * c;
-  const Real Xt = c * (0.691 + 0.228 * cuadrado(Xa / c) - nivel / c) / (0.185 + 0.456 * Xa / c);
-  e.longTramo1 = (Xe + Xt) / 2;
+  e.longTramo1 = alcanceImpacto(c, a, nivel);
   e.longTramo2 = 0.8 * c;
   e.longTramo3 = 1.75 * c;
   e.longRapida = e.longTramo2 + e.longTramo1 + e.longTramo3;
   e.longPoza = e.longTramo3 + e.longTramo2;
   e.yVert94 = h * potencia(qH * qH / (gravedad * cubo(h)), 0.22);
   const Real q = e.Q / anchoTotal(e);
-  e.y1 = -e.y2 / 2 + Sqr(e.y2 * e.y2 / 4 + 2 * q * q / (gravedad * e.y2));
+  e.y1 = conjugadoRectangular(e.y2, q);
   velocidadesResalto(e);
 }
 
@@ -106,6 +103,18 @@ bool comprobarDatos(DesignState& e, const Form25& p, PantallaVertical& pantalla)
 }
 
 }  // namespace
+
+CaidaLibre caidaLibre(Real h, Real q) {
+  const Real D = q * q / (gravedad * cubo(h));
+  return {D, 4.3 * h * potencia(D, 0.27), 0.54 * h * potencia(D, 0.425), 1.66 * h * potencia(D, 0.27)};
+}
+
+Real alcanceImpacto(Real yc, Real a, Real nivel) {
+  const Real Xe = (Sqr(3.195 - 4.368 * nivel / yc) - 0.406) * yc;
+  const Real Xa = (Sqr(3.195 - 4.368 * a / yc) - 0.406) * yc;
+  const Real Xt = yc * (0.691 + 0.228 * cuadrado(Xa / yc) - nivel / yc) / (0.185 + 0.456 * Xa / yc);
+  return (Xe + Xt) / 2;
+}
 
 Real caudalUnitario(Real H) { return 1.48 * potencia(H, 1.5); }
 

@@ -26,6 +26,20 @@ class PantallaVertical {
 /// to its last step; a failure passes to the caller.
 bool calcularVertical(DesignState& estado, const Form25& parametros, PantallaVertical& pantalla);
 
+/// Free fall of q per metre of width over the height h into a basin without obstacles, by Rand's relations (1955), m.
+/// Fails for no height.
+struct CaidaLibre {
+  Real D;       ///< drop number
+  Real Ld;      ///< reach of the jet
+  Real y1, y2;  ///< conjugate depths behind it
+};
+CaidaLibre caidaLibre(Real h, Real q);
+
+/// Where the jet meets the blocks of an impact basin, m from the crest, with the critical depth yc, the water's level
+/// over the crest that stands upstream of it (a) and in the basin (nivel). Fails where a level is too high for the
+/// relations.
+Real alcanceImpacto(Real yc, Real a, Real nivel);
+
 /// Discharge per metre of width that a crest takes from the canal's energy H, m²/s: q = 1.48 H^1.5.
 Real caudalUnitario(Real H);
 

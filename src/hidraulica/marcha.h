@@ -10,6 +10,7 @@ struct TramoMarcha {
   Real cotaA, cotaB;
   /// Where the Newton start of the next station lies, as a part of the depth of this one.
   double amortiguacion;
+  int limiteVueltas = Vueltas::limiteSimple;  ///< most Newton rounds of a station
 };
 
 /// What is known at the end of a station of the march.
@@ -80,7 +81,7 @@ Single marchar(const TramoMarcha& t, Real y, EnEstacion&& enEstacion) {
   const detalle::PasoMarcha paso(t, ds);
   for (int i = 0; i < pasosPorTramo; ++i) {
     detalle::Vuelta vuelta;
-    Vueltas vueltas;
+    Vueltas vueltas(t.limiteVueltas);
     do {
       vueltas.una();
       r = y;

@@ -1,6 +1,7 @@
 #include "hidraulica/salto.h"
 
 #include "comun/numeros.h"
+#include "hidraulica/resalto.h"
 #include "hidraulica/solvers.h"
 
 namespace calvento {
@@ -17,24 +18,8 @@ Real coeficienteLongitud(Real z) {
 }  // namespace
 
 Real Y(DesignState& estado, Real Q, Real y1, Real b, Real z) {
-  if (z == 0) return -y1 / 2 + Sqr(2 * cuadrado(Q / b) / (gravedad * y1) + cuadrado(y1) / 4);
-
-  const Seccion seccion{b, z};
-  const auto c = [&](Real y) { return 0.5 * (b + 2 * z * y / 3); };
-  Real y = 10 * y1;
-  Real anterior = 0;
-  estado.v1 = Q / seccion.area(y1);
-  const Real M1 = c(y1) * cuadrado(y1) + Q * estado.v1 / gravedad;
-  for (Vueltas vueltas; !(Abs(y - anterior) < 0.0001);) {
-    vueltas.una();
-    estado.v2 = Q / seccion.area(y);
-    estado.espejoAbajo = seccion.espejo(y);
-    const Real F = c(y) * cuadrado(y) + Q * estado.v2 / gravedad - M1;
-    const Real dF = z * cuadrado(y) / 3 + 2 * y * c(y) - cuadrado(estado.v2) * estado.espejoAbajo / gravedad;
-    anterior = y;
-    y = y - F / dF;
-  }
-  return y;
+  if (z == 0) return conjugadoRectangular(y1, Q / b);
+  return conjugadoTrapezoidal(Q, y1, {b, z}, estado.v1, estado.v2, estado.espejoAbajo);
 }
 
 Salto calcularSalto(DesignState& estado, Real z, Real b) {

@@ -31,7 +31,8 @@ Estructura rapida() {
       {"Label27", "Label35", "Label41"},
       {"Label41", "Label35"},
       {"mngrafico", "mntabla", "mntanque", "mnst", "mntperfil", "mntrayectoria", "mnformondas"},
-      conHojaDeBloques({{"mntperfil", "Form11"}, {"mntrayectoria", "Form8"}}),
+      conHojaDeBloques(
+          {{"mntperfil", "Form11"}, {"mnformondas", "Form6"}, {"mntrayectoria", "Form8"}, {"mntanque", "Form13"}}),
       "Form3",
       {
           {"Caudal", {{"Q", "Text5", "m³/s"}}},
@@ -82,7 +83,7 @@ Estructura caidaInclinada() {
       {"Label27", "Label29", "Label41"},
       {"Label41", "Label29"},
       {"mngrafico", "mnst", "mntabla", "mntanque"},
-      conHojaDeBloques({}),
+      conHojaDeBloques({{"mntanque", "Form7"}}),
       "Form4",
       {
           {"Caudal", {{"Q", "Text5", "m³/s"}}},
@@ -127,7 +128,7 @@ Estructura caidaVertical() {
       {"Label41", "Label48"},
       {"Label41"},
       {"mngrafico", "mnseccion", "mntanque"},
-      {},
+      {{"mntanque", "Form26"}},
       "Form17",
       {
           {"Caudal", {{"Q", "Text5", "m³/s"}}},

@@ -93,6 +93,44 @@ std::string tablaTanques(const Sesion& sesion) {
   return s;
 }
 
+/// The first line of the verdict on the basin, with the discharges that sweep the jump out.
+std::vector<std::string> veredicto(const Ventana& reporte) {
+  const std::string& texto = reporte.buscar<TextBox>("Text1")->Text.valor();
+  std::string primera = texto.substr(0, texto.find('\r'));
+  while (!primera.empty() && (primera.back() == ',' || primera.back() == '.')) primera.pop_back();
+  std::string barridos;
+  const Rejilla& t = reporte.buscar<Grid>("Grid1")->tabla;
+  for (int f = t.filasTitulo; f < t.filas(); ++f)
+    if (t.texto(f, 9) == "--") barridos += (barridos.empty() ? "resalto barrido con Q = " : ", ") + t.texto(f, 1);
+  return barridos.empty() ? std::vector{primera} : std::vector{primera, barridos + " m³/s"};
+}
+
+/// For each discharge whether the flow is stable, or from which station on it is not.
+std::vector<std::string> estabilidad(const Ventana& reporte) {
+  std::vector<std::string> piezas;
+  const Rejilla& t = reporte.buscar<Grid>("Grid1")->tabla;
+  for (int c = 3; c < t.columnas(); c += 3) {
+    int f = t.filasTitulo + 1;
+    while (f < t.filas() && t.texto(f, c) == "Flujo Estable") ++f;
+    piezas.push_back(t.texto(0, c - 1) + (f == t.filas() ? " estable" : " inestable desde " + t.texto(f, 0)));
+  }
+  return piezas;
+}
+
+std::string verificaciones(const Sesion& sesion) {
+  std::string s;
+  for (const ReporteAbierto& r : sesion.reportes()) {
+    const bool deEstabilidad = r.nombre == "Form6";
+    if (!deEstabilidad && r.nombre != "Form13" && r.nombre != "Form7" && r.nombre != "Form26") continue;
+    const char* rotulo = deEstabilidad ? "Flujo en la rápida" : "Poza";
+    if (r.ventana == nullptr)
+      s += linea(rotulo, {"no se pudo verificar: " + r.fallo});
+    else
+      s += linea(rotulo, deEstabilidad ? estabilidad(*r.ventana) : veredicto(*r.ventana));
+  }
+  return s.empty() ? s : "\nVERIFICACIONES\n" + s;
+}
+
 std::string mensajes(const Sesion& sesion) {
   std::string s = "\nMENSAJES\n";
   if (sesion.mensajes().empty()) s += "  ninguno\n";
@@ -118,7 +156,7 @@ std::string comoResumen(const Sesion& sesion) {
   // of a project that was not read there is nothing to show but why
   if (sesion.ventana() != nullptr && !sesion.estado().esNuevo) {
     s += sesion.ventana()->Caption.valor() + "\n";
-    s += datos(sesion) + resultados(sesion) + tablaTanques(sesion);
+    s += datos(sesion) + resultados(sesion) + tablaTanques(sesion) + verificaciones(sesion);
   }
   return s + mensajes(sesion) + "\n";
 }

@@ -118,26 +118,31 @@ int filaElegida(const DesignState& e) {
   return 0;
 }
 
-bool longitudPoza(DesignState& e, const Form2& p) {
-  const auto conK = [&e](const TextBox& campo) {
-    e.kLongPoza = Val(campo.Text);
-    return e.kLongPoza;
+bool longitudTanque(const DatosLongitud& d, const Form2& p, Single& K, Single& longitud,
+                    std::optional<Real> kTrapezoidal) {
+  const auto conK = [&K](const TextBox& campo) {
+    K = Val(campo.Text);
+    return K;
   };
-  if (e.tipoTanque == 1)
-    e.longPoza = (e.y2 - e.y1) * conK(p.Text1);
-  else if (e.tipoTanque == 2)
-    e.longPoza = conK(p.Text2) * e.y2;
-  else if (e.tipoTanque == 3)
-    e.longPoza = conK(p.Text3) * e.y2;
-  else if (e.tipoTanque == 4)
-    e.longPoza = conK(p.Text4) * e.y2;
-  else if (e.tipoTanque == 5)
-    e.longPoza = e.y2 * 4.5 / potencia(e.fr1, 0.76);
-  else if (e.tipoTanque == 6)
-    e.longPoza = (e.y2 - e.y1) * conK(p.Text10);
+  if (d.tipo == 1)
+    longitud = (d.y2 - d.y1) * conK(p.Text1);
+  else if (d.tipo == 2)
+    longitud = conK(p.Text2) * d.y2;
+  else if (d.tipo == 3)
+    longitud = conK(p.Text3) * d.y2;
+  else if (d.tipo == 4)
+    longitud = conK(p.Text4) * d.y2;
+  else if (d.tipo == 5)
+    longitud = d.y2 * 4.5 / potencia(d.fr1, 0.76);
+  else if (d.tipo == 6)
+    longitud = (d.y2 - d.y1) * (kTrapezoidal ? K = *kTrapezoidal : conK(p.Text10));
   else
     return false;
   return true;
+}
+
+bool longitudPoza(DesignState& e, const Form2& p) {
+  return longitudTanque({e.tipoTanque, e.y1, e.y2, e.fr1}, p, e.kLongPoza, e.longPoza);
 }
 
 void LONGPOZA(DesignState& estado, const Form2& parametros, Dialogos& dialogos) {

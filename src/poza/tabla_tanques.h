@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "modelo/design_state.h"
 #include "plataforma/dialogos.h"
 #include "plataforma/rejilla.h"
@@ -23,6 +25,17 @@ void SELECCIONARTANQUE(Rejilla& tabla, const DesignState& estado, const Form2& p
 
 /// The row of the basin type in force, 0 for a type that is none of 1 to 6.
 int filaElegida(const DesignState& estado);
+
+/// What the length of a basin is reckoned from.
+struct DatosLongitud {
+  Real tipo;    ///< basin type, 1 to 6
+  Real y1, y2;  ///< conjugate depths, m
+  Real fr1;     ///< Froude number at y1, of use to type 5 alone
+};
+/// Sets the length of the basin, m, and its coefficient K where the rule of the type has one; false for a type that is
+/// none of 1 to 6, which leaves both as they are. `kTrapezoidal`: K of type 6, the parameter window's unless given.
+bool longitudTanque(const DatosLongitud& datos, const Form2& parametros, Single& K, Single& longitud,
+                    std::optional<Real> kTrapezoidal = {});
 
 /// Sets longPoza (and kLongPoza where the rule has a K) for the basin type in force; false for a type that is none of
 /// 1 to 6, which leaves both as they are.

@@ -8,6 +8,7 @@
 #include "ui_Form1.h"
 #include "ui_Form10.h"
 #include "ui_Form11.h"
+#include "ui_Form13.h"
 #include "ui_Form14.h"
 #include "ui_Form15.h"
 #include "ui_Form16.h"
@@ -16,8 +17,11 @@
 #include "ui_Form22.h"
 #include "ui_Form23.h"
 #include "ui_Form25.h"
+#include "ui_Form26.h"
 #include "ui_Form3.h"
 #include "ui_Form5.h"
+#include "ui_Form6.h"
+#include "ui_Form7.h"
 #include "ui_Form8.h"
 #include "ui_frmAbout.h"
 #include "ui_frmMain.h"
@@ -47,7 +51,11 @@ constexpr std::array ventanas_ui = {
     VentanaUi{"Form21", Puesto::hija, construir<Ui::Form21>},
     VentanaUi{"Form23", Puesto::hija, construir<Ui::Form23>},
     VentanaUi{"Form11", Puesto::hija, construir<Ui::Form11>},
+    VentanaUi{"Form6", Puesto::hija, construir<Ui::Form6>},
     VentanaUi{"Form8", Puesto::hija, construir<Ui::Form8>},
+    VentanaUi{"Form13", Puesto::hija, construir<Ui::Form13>},
+    VentanaUi{"Form7", Puesto::hija, construir<Ui::Form7>},
+    VentanaUi{"Form26", Puesto::hija, construir<Ui::Form26>},
 };
 
 }  // namespace

@@ -37,7 +37,7 @@ TEST(Windows, EachIsOneForTheWholeRun) {
   p.a.arrancar();
   EXPECT_EQ(p.sistema.llamadas, (std::vector<std::string>{"presentar frmMain", "presentar frmAbout"}));
   p.a.abrirProyecto(RAIZ_PROYECTO "/ejemplos/04-tres-tramos.cvr");  // reports need a design
-  p.a.estado.bPozaCaida = p.a.estado.bPoza;
+  p.a.estado.bEntradaCaida = p.a.estado.bPozaCaida = 2;             // and those of the drops what only these have
   for (const std::string_view nombre : p.a.nombres()) {
     Ventana* v = p.a.cargar(nombre);
     ASSERT_NE(v, nullptr) << nombre;

@@ -19,9 +19,9 @@ class VentanaCompleta : public testing::TestWithParam<std::string> {};
 TEST_P(VentanaCompleta, SeEnlazaConSuDiseno) {
   DialogosGuion dialogos;
   Programa programa(dialogos);
-  // reports need a design
+  // reports need a design, and those of the drops what only these have
   programa.aplicacion.cargar<VentanaDatos>("Form10")->abrir(RAIZ_PROYECTO "/ejemplos/04-tres-tramos.cvr");
-  programa.aplicacion.estado.bPozaCaida = programa.aplicacion.estado.bPoza;
+  programa.aplicacion.estado.bEntradaCaida = programa.aplicacion.estado.bPozaCaida = 2;
   Ventana* ventana = programa.aplicacion.cargar(GetParam());
   ASSERT_NE(ventana, nullptr) << "no class";
   QMainWindow vista;
