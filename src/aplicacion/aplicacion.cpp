@@ -5,6 +5,7 @@
 
 #include "aplicacion/frm_about.h"
 #include "aplicacion/frm_main.h"
+#include "cad/form12.h"
 #include "caida_inclinada/form1.h"
 #include "caida_vertical/form16.h"
 #include "comun/fallo.h"
@@ -48,6 +49,7 @@ const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
       {"Form13", [](Aplicacion& a) { return std::make_unique<Form13>(a.estado, a.form2(), a.dialogos_, a); }},
       {"Form7", [](Aplicacion& a) { return std::make_unique<Form7>(a.estado, a.form2(), a.dialogos_, a); }},
       {"Form26", [](Aplicacion& a) { return std::make_unique<Form26>(a.estado, a); }},
+      {"Form12", [](Aplicacion& a) { return std::make_unique<Form12>(a.estado, a.form2(), a.dialogos_, a, a.cad_); }},
   };
   return ventanas;
 }

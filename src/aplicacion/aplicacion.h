@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "cad/dibujo_dxf.h"
 #include "modelo/design_state.h"
 #include "plataforma/dialogos.h"
 #include "plataforma/navegador.h"
@@ -63,6 +64,7 @@ class Aplicacion : public Navegador {
 
   Dialogos& dialogos_;
   SistemaVentanas& sistema_;
+  ConexionDxf cad_{dialogos_};
   std::map<std::string, std::unique_ptr<Ventana>, std::less<>> ventanas_;
   std::vector<std::unique_ptr<Ventana>> salientes_;  ///< unloaded, alive until the running event has ended
 };

@@ -10,10 +10,9 @@ namespace calvento {
 namespace {
 
 constexpr double grados(double g) { return g * piCorto / 180; }
-/// Extension ticks and dimension line lie so far under the base of a chain, m.
+/// Extension ticks lie so far under the base of a chain, m.
 constexpr double inicioMarca = 0.25;
 constexpr double finMarca = 0.5;
-constexpr double nivelCadena = 0.4;
 
 }  // namespace
 

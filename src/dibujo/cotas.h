@@ -10,6 +10,10 @@ namespace calvento {
 
 /// Length of an arrow head along its dimension line, m.
 inline constexpr double largoFlecha = 0.05;
+/// The line of a chain of dimensions lies so far under its base, m.
+inline constexpr double nivelCadena = 0.4;
+/// Half the size of the mark on a control point, m.
+inline constexpr double medioPuntoControl = 0.02;
 
 /// Arrow head at a point of a horizontal dimension line; its two strokes lie to the right of the point (sentido 1) or
 /// to the left (-1).
@@ -25,6 +29,13 @@ struct CadenaCotas {
   std::vector<double> dobles;   ///< stations with arrows on both sides
 };
 void cadenaCotas(Lienzo& lienzo, const CadenaCotas& cadena);
+
+/// A height to be dimensioned at a station.
+struct CotaAltura {
+  double x;
+  double abajo;
+  double arriba;
+};
 
 /// A vertical dimension with arrows at both ends and its line split round the label.
 void cotaVertical(Lienzo& lienzo, double x, double abajo, double arriba);

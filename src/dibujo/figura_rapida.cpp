@@ -2,14 +2,13 @@
 
 #include <utility>
 
+#include "dibujo/cotas.h"
+
 // The areas and lines of the chute's sheet.
 
 namespace calvento {
 
 namespace {
-
-/// Half a side of the square on a control point, m.
-constexpr double medioPunto = 0.02;
 
 void relleno(Lienzo& lienzo, Color color, EstiloRelleno estilo) {
   lienzo.FillColor = color;
@@ -48,7 +47,8 @@ void FiguraRapida::CANALB(Lienzo& lienzo) const { concreto(lienzo, GeometriaRapi
 void FiguraRapida::COTAS(Lienzo& lienzo) const {
   relleno(lienzo, color::negro, EstiloRelleno::solido);
   for (const Punto& p : GeometriaRapida(estado_).puntosControl())
-    lienzo.LineCaja({p.x - medioPunto, p.y - medioPunto}, {p.x + medioPunto, p.y + medioPunto}, color::negro);
+    lienzo.LineCaja({p.x - medioPuntoControl, p.y - medioPuntoControl},
+                    {p.x + medioPuntoControl, p.y + medioPuntoControl}, color::negro);
 }
 
 void FiguraRapida::DIBUJACANAL(Lienzo& lienzo) const {

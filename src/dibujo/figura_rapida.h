@@ -29,9 +29,6 @@ class FiguraRapida {
  private:
   /// Lower edge of the plan, from which its dimensions hang.
   double pieDePlanta() const { return ejePlanta_ - anchoMaximo_ / 2; }
-  void cotasEntrada(Lienzo& lienzo, const GeometriaRapida& g) const;
-  void cotasSeccion(Lienzo& lienzo, const GeometriaRapida& g) const;
-  void cotasAnchos(Lienzo& lienzo, const GeometriaRapida& g) const;
   void rotulosEntrada(Lienzo& lienzo, const GeometriaRapida& g) const;
   void rotulosTramos(Lienzo& lienzo, const GeometriaRapida& g) const;
   void rotulosPoza(Lienzo& lienzo, const GeometriaRapida& g) const;

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <span>
 
 #include "dibujo/cotas.h"
 #include "dibujo/figura_rapida.h"
@@ -35,25 +36,17 @@ void guiaTrayectoria(Lienzo& lienzo, const GeometriaRapida& g) {
 
 }  // namespace
 
-void FiguraRapida::EJESDIMENSION(Lienzo& lienzo) const {
-  const GeometriaRapida g(estado_);
-  cotasEntrada(lienzo, g);
-  cotasSeccion(lienzo, g);
-  guiaTrayectoria(lienzo, g);
-  cotasAnchos(lienzo, g);
-}
-
-void FiguraRapida::cotasEntrada(Lienzo& lienzo, const GeometriaRapida& g) const {
+CadenaCotas cadenaEntrada(const GeometriaRapida& g) {
   const Valores& v = g.valores();
   CadenaCotas cadena;
   cadena.base = v.cotaInicio;
   cadena.desde = -v.longTransEntrada;
   cadena.hasta = 0;
   cadena.marcas = {-v.longTransEntrada, 0};
-  cadenaCotas(lienzo, cadena);
+  return cadena;
 }
 
-void FiguraRapida::cotasSeccion(Lienzo& lienzo, const GeometriaRapida& g) const {
+CadenaCotas cadenaSeccion(const GeometriaRapida& g) {
   const Valores& v = g.valores();
   const EstacionesPoza& p = g.estaciones();
   CadenaCotas cadena;
@@ -66,39 +59,56 @@ void FiguraRapida::cotasSeccion(Lienzo& lienzo, const GeometriaRapida& g) const 
   if (v.numTramos >= 2) cadena.dobles = {v.longTramo1, v.longTramo1 + v.longTramo2};
   if (v.numTramos == 3) cadena.dobles.push_back(v.longRapida);
   cadena.dobles.insert(cadena.dobles.end(), {p.xPT, p.xPoza0, p.xPoza1, p.xPoza2});
-  cadenaCotas(lienzo, cadena);
-  barraPoza(lienzo, g);
-
-  cotaVertical(lienzo, p.xPoza2, v.cotaAbajo, v.cotaAbajo + v.ynAbajo);
-  cotaVertical(lienzo, p.xPoza2, v.cotaPoza, v.cotaAbajo);
-  cotaVertical(lienzo, p.xPoza0 + v.longPoza / 2, v.cotaPoza, v.cotaPoza + v.y2);
-  flechasVerticales(lienzo, v.longRapida, v.cotaFin, v.cotaFin + v.yFin);
-  const double cotaUmbral = v.sobreelevacion + v.cotaInicio;
-  cotaVertical(lienzo, -2 * v.sobreelevacion, cotaUmbral, cotaUmbral + v.ycControl);
+  return cadena;
 }
 
-void FiguraRapida::cotasAnchos(Lienzo& lienzo, const GeometriaRapida& g) const {
+CadenaCotas cadenaPlanta(const GeometriaRapida& g, double pie) {
+  const EstacionesPoza& p = g.estaciones();
+  CadenaCotas cadena;
+  cadena.base = pie;
+  cadena.desde = g.valores().longRapida;
+  cadena.hasta = p.xTrans;
+  cadena.dobles = {p.xPT, p.xPoza0, p.xPoza1, p.xPoza2};
+  cadena.marcas = {cadena.desde, p.xPT, p.xPoza0, p.xPoza1, p.xPoza2, p.xTrans};
+  return cadena;
+}
+
+std::vector<CotaAltura> alturasAcotadas(const GeometriaRapida& g) {
+  const Valores& v = g.valores();
+  const EstacionesPoza& p = g.estaciones();
+  const double cotaUmbral = v.sobreelevacion + v.cotaInicio;
+  return {{p.xPoza2, v.cotaAbajo, v.cotaAbajo + v.ynAbajo},
+          {p.xPoza2, v.cotaPoza, v.cotaAbajo},
+          {p.xPoza0 + v.longPoza / 2, v.cotaPoza, v.cotaPoza + v.y2},
+          {-2 * v.sobreelevacion, cotaUmbral, cotaUmbral + v.ycControl},
+          {v.longRapida, v.cotaFin, v.cotaFin + v.yFin}};
+}
+
+std::vector<AnchoEn> anchosAcotados(const GeometriaRapida& g) {
   const Valores& v = g.valores();
   const EstacionesPoza& p = g.estaciones();
   const double arriba = (2 * v.zArriba * v.hArriba + v.bArriba) / 2;
   const double rapida = (2 * v.zRapida * v.hRapida + v.bRapida) / 2;
   const double abajo = (2 * v.zAbajo * v.hAbajo + v.bAbajo) / 2;
-  const AnchoEn anchos[] = {{-v.longTransEntrada, arriba}, {0, rapida},
-                            {v.longRapida, rapida},        {p.xPoza0, v.espejoPoza / 2},
-                            {p.xPoza2, v.espejoPoza / 2},  {p.xTrans, abajo}};
-  for (const auto& a : anchos) flechasVerticales(lienzo, a.x, ejePlanta_ - a.medio, ejePlanta_ + a.medio);
+  return {{-v.longTransEntrada, arriba}, {0, rapida},      {v.longRapida, rapida}, {p.xPoza0, v.espejoPoza / 2},
+          {p.xPoza2, v.espejoPoza / 2},  {p.xTrans, abajo}};
+}
+
+void FiguraRapida::EJESDIMENSION(Lienzo& lienzo) const {
+  const GeometriaRapida g(estado_);
+  cadenaCotas(lienzo, cadenaEntrada(g));
+  cadenaCotas(lienzo, cadenaSeccion(g));
+  barraPoza(lienzo, g);
+  const std::vector<CotaAltura> alturas = alturasAcotadas(g);
+  for (const CotaAltura& c : std::span(alturas).first(alturas.size() - 1)) cotaVertical(lienzo, c.x, c.abajo, c.arriba);
+  flechasVerticales(lienzo, alturas.back().x, alturas.back().abajo, alturas.back().arriba);
+  guiaTrayectoria(lienzo, g);
+  for (const AnchoEn& a : anchosAcotados(g)) flechasVerticales(lienzo, a.x, ejePlanta_ - a.medio, ejePlanta_ + a.medio);
 }
 
 void FiguraRapida::EJESDIMENSIONPLANTA(Lienzo& lienzo) const {
   const GeometriaRapida g(estado_);
-  const EstacionesPoza& p = g.estaciones();
-  CadenaCotas cadena;
-  cadena.base = pieDePlanta();
-  cadena.desde = g.valores().longRapida;
-  cadena.hasta = p.xTrans;
-  cadena.dobles = {p.xPT, p.xPoza0, p.xPoza1, p.xPoza2};
-  cadena.marcas = {cadena.desde, p.xPT, p.xPoza0, p.xPoza1, p.xPoza2, p.xTrans};
-  cadenaCotas(lienzo, cadena);
+  cadenaCotas(lienzo, cadenaPlanta(g, pieDePlanta()));
   // it stands in the section, not in the plan: meant so
   barraPoza(lienzo, g);
 }

@@ -3,7 +3,6 @@
 #include <initializer_list>
 
 #include "comun/fallo.h"
-#include "hidraulica/solvers.h"
 
 namespace calvento {
 
@@ -21,9 +20,7 @@ void Form3::Form_Load() {
   e.progresivaFinPoza = e.progresivaInicio + e.longRapida + e.xTrayectoria +
                         (e.cotaTrayectoria - e.cotaPoza) * e.zRampaEntrada + e.longPoza +
                         (e.cotaAbajo - e.cotaPoza) * e.zRampaSalida;
-  anchoMaximo_ = MAYOR(MAYOR(e.espejoArriba, e.espejoAbajo), MAYOR(e.espejoRapida, e.espejoPoza));
-  ejePlanta_ = ((5 + Real(e.longTransEntrada)) * e.sArriba + e.cotaInicio + e.hArriba) +
-               cuadrado(e.vArriba) / (2 * 9.81) + e.sobreelevacion + anchoMaximo_ / 2 + 0.15;
+  planta_ = plantaRapida(e);
   abrir(estructura());
 }
 
@@ -38,7 +35,8 @@ std::vector<MarcoDibujo::VistaFija> Form3::vistasFijas() const {
   return {
       {"vistaTodo",
        [this, &e] {
-         return Vista{-e.longTransEntrada - 5, finFigura() + 5, e.cotaPoza - 0.6, ejePlanta_ + anchoMaximo_ + 0.15};
+         return Vista{-e.longTransEntrada - 5, finFigura() + 5, e.cotaPoza - 0.6,
+                      planta_.eje + planta_.anchoMaximo + 0.15};
        }},
       {"vistaTanque",
        [this, &e] {
@@ -47,12 +45,12 @@ std::vector<MarcoDibujo::VistaFija> Form3::vistasFijas() const {
        }},
       {"vistaPlanta",
        [this, &e] {
-         return Vista{e.longRapida - 1.5, finFigura() + 1.3, ejePlanta_ - e.espejoPoza, ejePlanta_ + e.espejoPoza};
+         return Vista{e.longRapida - 1.5, finFigura() + 1.3, planta_.eje - e.espejoPoza, planta_.eje + e.espejoPoza};
        }},
       {"vistaControl",
        [this, &e] {
          return Vista{-e.longTransEntrada - 3, 3, e.cotaInicio - 2,
-                      ejePlanta_ + (2 * Real(e.zArriba) * e.hArriba + e.bArriba) / 2 + 1};
+                      planta_.eje + (2 * Real(e.zArriba) * e.hArriba + e.bArriba) / 2 + 1};
        }},
   };
 }
@@ -74,7 +72,7 @@ MarcoDibujo::Estructura Form3::estructura() const {
     std::vector<Rutina> r;
     for (const Capa& c : capas)
       r.push_back({c.nombre, [this, m = c.metodo](Lienzo& lienzo) {
-                     (FiguraRapida(estado_, Real(ejePlanta_).valor(), Real(anchoMaximo_).valor()).*m)(lienzo);
+                     (FiguraRapida(estado_, Real(planta_.eje).valor(), Real(planta_.anchoMaximo).valor()).*m)(lienzo);
                    }});
     return r;
   };

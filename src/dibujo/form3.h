@@ -2,6 +2,7 @@
 
 #include "dibujo/figura_rapida.h"
 #include "dibujo/marco_dibujo.h"
+#include "dibujo/planta.h"
 
 namespace calvento {
 
@@ -17,8 +18,7 @@ class Form3 : public MarcoDibujo {
   std::vector<VistaFija> vistasFijas() const;
   Estructura estructura() const;
 
-  Single anchoMaximo_;  ///< widest water surface, m
-  Single ejePlanta_;    ///< world Y of the plan's axis, above the highest point of the section
+  Planta planta_;
 };
 
 }  // namespace calvento

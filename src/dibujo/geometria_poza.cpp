@@ -25,11 +25,19 @@ double fondoAbajo(const Valores& v, double distancia) { return v.cotaAbajo - dis
 
 double energiaPieResalto(const Valores& v) { return v.v1 * v.v1 * 0.9 / dosG + v.y1 + v.cotaPoza; }
 
-void trazarAguaPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p) {
-  const double fondoSalida = fondoAbajo(v, v.longTransSalida + canalDibujado);
+void trazarSuperficiePoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p) {
   trazarResalto(trazo, p.xPoza0, v.cotaPoza, v.longPoza, v.y1, v.y2);
-  trazo.punto(p.xPoza2, v.ynAbajo + v.cotaAbajo).punto(p.xSalida, v.ynAbajo + fondoSalida);
-  trazo.punto(p.xSalida, fondoSalida);
+  trazo.punto(p.xPoza2, v.ynAbajo + v.cotaAbajo);
+  trazo.punto(p.xSalida, v.ynAbajo + fondoAbajo(v, v.longTransSalida + canalDibujado));
+}
+
+void trazarAguaPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p) {
+  trazarSuperficiePoza(trazo, v, p);
+  trazarFondoPoza(trazo, v, p);
+}
+
+void trazarFondoPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p) {
+  trazo.punto(p.xSalida, fondoAbajo(v, v.longTransSalida + canalDibujado));
   trazarPisoPoza(trazo, v, p);
 }
 

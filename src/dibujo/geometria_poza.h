@@ -41,7 +41,13 @@ double fondoAbajo(const Valores& v, double distancia);
 /// Elevation of the energy line at the toe of the jump. The tenth taken off the velocity head is meant.
 double energiaPieResalto(const Valores& v);
 
-/// Water from the toe of the jump to the end of the figure and back along the bed to the end of the curve: 23 points.
+/// Surface of the water from the toe of the jump to the end of the figure: 17 points.
+void trazarSuperficiePoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p);
+
+/// Bed of that water, back from the end of the figure to the end of the curve: 6 points.
+void trazarFondoPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p);
+
+/// Both of them, the surface and the way back along the bed: 23 points.
 void trazarAguaPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p);
 
 /// Upper side of the concrete from the end of the outlet transition back to the end of the curve: 5 points.

@@ -55,21 +55,34 @@ void GeometriaRapida::trazarTrayectoria(Trazo& trazo, bool deVuelta, double sobr
   }
 }
 
-std::vector<Punto> GeometriaRapida::agua() const {
+void GeometriaRapida::trazarSuperficie(Trazo& trazo) const {
   const double dosH = 2 * v.sobreelevacion;
-  const double cotaUmbral = v.cotaInicio + v.sobreelevacion;
-  const double fondo = fondoArriba(v.longTransEntrada + canalDibujado);
-  Trazo trazo;
-  trazo.punto(xCanal(), fondo).punto(xCanal(), fondo + v.ynArriba);
-  trazo.punto(-anchoUmbral - dosH, cotaUmbral + v.ycControl).punto(-dosH, cotaUmbral + v.ycControl);
-  trazo.punto(0, v.cotaInicio + v.ycControl);
+  const double enUmbral = v.cotaInicio + v.sobreelevacion + v.ycControl;
+  trazo.punto(xCanal(), fondoArriba(v.longTransEntrada + canalDibujado) + v.ynArriba);
+  trazo.punto(-anchoUmbral - dosH, enUmbral).punto(-dosH, enUmbral).punto(0, v.cotaInicio + v.ycControl);
   const auto& perfil = v.estado.perfil;
   for (std::size_t i = 0; i < perfil.size(); ++i) {
     const double x = perfil[i].x.valor();
     trazo.punto(x, fondoEnFila(i, x) + perfil[i].tirante.valor());
   }
   trazarTrayectoria(trazo, false, v.yFin);
-  trazarAguaPoza(trazo, v, p);
+  trazarSuperficiePoza(trazo, v, p);
+}
+
+std::vector<Punto> GeometriaRapida::superficie() const {
+  Trazo trazo;
+  trazarSuperficie(trazo);
+  return trazo.puntos();
+}
+
+std::vector<Punto> GeometriaRapida::agua() const {
+  const double dosH = 2 * v.sobreelevacion;
+  const double cotaUmbral = v.cotaInicio + v.sobreelevacion;
+  const double fondo = fondoArriba(v.longTransEntrada + canalDibujado);
+  Trazo trazo;
+  trazo.punto(xCanal(), fondo);
+  trazarSuperficie(trazo);
+  trazarFondoPoza(trazo, v, p);
   trazarTrayectoria(trazo, true, 0);
   for (std::size_t i = tramos().size(); i-- > 0;) trazo.punto(tramos()[i].fin);
   trazo.punto(0, v.cotaInicio).punto(-dosH, cotaUmbral).punto(-anchoUmbral - dosH, cotaUmbral);

@@ -39,6 +39,8 @@ class GeometriaRapida {
 
   /// Water body: rows of the profile + 53 + numTramos points.
   std::vector<Punto> agua() const;
+  /// The upper side of the water body: rows of the profile + 31 points.
+  std::vector<Punto> superficie() const;
   /// Concrete of trajectory, ramps and basin: 36 points.
   std::vector<Punto> concreto() const;
   /// Lining of the upstream canal, sill and chute: 2 numTramos + 8 points.
@@ -61,6 +63,7 @@ class GeometriaRapida {
 
  private:
   double fondoEnFila(std::size_t fila, double x) const;
+  void trazarSuperficie(Trazo& trazo) const;
   void trazarTrayectoria(Trazo& trazo, bool deVuelta, double sobre) const;
   double xCoronaRampa() const;
   double cargaVelocidad(double tirante) const;

@@ -48,6 +48,14 @@ struct ParEstacion {
 };
 void parEstacion(Lienzo& lienzo, const Letra& letra, double progresivaInicio, const ParEstacion& par);
 
+/// The slope of a bed, written along it.
+struct RotuloPendiente {
+  double x;
+  double y;
+  Single pendiente;
+  std::string texto() const { return "s=-" + calvento::texto(pendiente); }
+};
+
 /// Title of a part of the sheet, bold and underlined.
 void titulo(Lienzo& lienzo, double x, double y, std::string texto);
 

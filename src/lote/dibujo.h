@@ -13,4 +13,8 @@ std::string archivoDeSalida(const std::string& patron, const std::string& proyec
 /// structure does not have, std::runtime_error where the drawing cannot be made or written.
 void exportarDibujoDe(Sesion& sesion, const Opciones& opciones);
 
+/// Writes the structure's CAD export with the options that its window opens with. Throws std::runtime_error where it
+/// cannot be made or written.
+void exportarDxfDe(Sesion& sesion, const Opciones& opciones);
+
 }  // namespace calvento::lote

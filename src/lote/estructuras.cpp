@@ -34,6 +34,7 @@ Estructura rapida() {
       conHojaDeBloques(
           {{"mntperfil", "Form11"}, {"mnformondas", "Form6"}, {"mntrayectoria", "Form8"}, {"mntanque", "Form13"}}),
       "Form3",
+      "Form12",
       {
           {"Caudal", {{"Q", "Text5", "m³/s"}}},
           canalArriba(),
@@ -85,6 +86,7 @@ Estructura caidaInclinada() {
       {"mngrafico", "mnst", "mntabla", "mntanque"},
       conHojaDeBloques({{"mntanque", "Form7"}}),
       "Form4",
+      "Form9",
       {
           {"Caudal", {{"Q", "Text5", "m³/s"}}},
           canalArriba(),
@@ -130,6 +132,7 @@ Estructura caidaVertical() {
       {"mngrafico", "mnseccion", "mntanque"},
       {{"mntanque", "Form26"}},
       "Form17",
+      "Form18",
       {
           {"Caudal", {{"Q", "Text5", "m³/s"}}},
           canalArriba(),

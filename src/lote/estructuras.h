@@ -47,6 +47,7 @@ struct Estructura {
   std::vector<std::string_view> menus;      ///< its result menus
   std::vector<Reporte> reportes;            ///< in the order in which they are told
   std::string_view ventanaDibujo;           ///< its drawing window
+  std::string_view ventanaExportar;         ///< its CAD export
   std::vector<Linea<Dato>> datos;
   std::vector<Linea<Valor>> resultados;
 };

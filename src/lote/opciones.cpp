@@ -109,6 +109,11 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
       ->type_name("ARCHIVO");
   programa.add_option("--vista", o.vista, "Vista del dibujo; vistaTodo, mientras no se diga otra cosa")
       ->type_name("NOMBRE");
+  programa
+      .add_option("--dxf", o.dxf,
+                  "Guarda perfil y planta como dibujo DXF para programas de CAD;\n"
+                  "{} en el nombre, como en --dibujo")
+      ->type_name("ARCHIVO");
 
   try {
     programa.parse(argc, argv);
@@ -123,6 +128,7 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
   o.veces = comoVeces(veces);
   o.responder = comoRespuesta(responder);
   comprobarArchivoDeSalida(o, "--dibujo", o.dibujo);
+  comprobarArchivoDeSalida(o, "--dxf", o.dxf);
   return o;
 }
 

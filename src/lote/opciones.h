@@ -22,6 +22,7 @@ struct Opciones {
   bool responder = true;  ///< the answer to every question, true for yes
   std::string dibujo;     ///< file of the drawing; "{}" stands for the project's name; empty for none
   std::string vista = "vistaTodo";
+  std::string dxf;  ///< file of the CAD export, named as that of the drawing
 };
 
 /// A command line that cannot be carried out; what() is a Spanish text for the user.

@@ -19,6 +19,7 @@ enum Estado { calculados = 0, algunoNo = 1, errores = 2 };
 Estado exportar(Sesion& sesion, const Opciones& opciones, std::ostream& err) {
   try {
     if (!opciones.dibujo.empty()) exportarDibujoDe(sesion, opciones);
+    if (!opciones.dxf.empty()) exportarDxfDe(sesion, opciones);
     return calculados;
   } catch (const std::exception& fallo) {
     err << sesion.archivo() << ": " << fallo.what() << '\n';

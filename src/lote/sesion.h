@@ -32,13 +32,19 @@ class DialogosGrabados : public Dialogos {
   void aviso(const std::string& texto) override { mensajes.push_back({Mensaje::Tipo::aviso, texto}); }
   void fallo(const std::string& texto) override { mensajes.push_back({Mensaje::Tipo::fallo, texto}); }
   bool pregunta(const std::string& texto) override {
+    if (!archivoNombrado.empty()) return true;
     mensajes.push_back({Mensaje::Tipo::pregunta, texto, respuesta_});
     return respuesta_;
   }
   std::optional<std::string> abrirArchivo(const OpcionesArchivo&) override { return std::nullopt; }
-  std::optional<std::string> guardarArchivo(const OpcionesArchivo&) override { return std::nullopt; }
+  std::optional<std::string> guardarArchivo(const OpcionesArchivo&) override {
+    if (archivoNombrado.empty()) return std::nullopt;
+    return archivoNombrado;
+  }
 
   std::vector<Mensaje> mensajes;
+  /// The file to save to, named on the command line and so to be replaced without a question; empty for none.
+  std::string archivoNombrado;
 
  private:
   bool respuesta_;
@@ -84,6 +90,8 @@ class Sesion {
   const std::vector<ReporteAbierto>& reportes() const { return reportes_; }
   /// The running program, whose result windows can be loaded.
   Aplicacion& aplicacion() { return aplicacion_; }
+  /// Lets the save dialogs of what follows name this file.
+  void nombrarArchivo(const std::string& archivo) { dialogos_.archivoNombrado = archivo; }
 
  private:
   void ejecutar(const Opciones& opciones);

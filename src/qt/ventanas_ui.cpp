@@ -23,6 +23,7 @@
 #include "ui_Form6.h"
 #include "ui_Form7.h"
 #include "ui_Form8.h"
+#include "ui_MarcoExportar.h"
 #include "ui_frmAbout.h"
 #include "ui_frmMain.h"
 
@@ -56,6 +57,7 @@ constexpr std::array ventanas_ui = {
     VentanaUi{"Form13", Puesto::hija, construir<Ui::Form13>},
     VentanaUi{"Form7", Puesto::hija, construir<Ui::Form7>},
     VentanaUi{"Form26", Puesto::hija, construir<Ui::Form26>},
+    VentanaUi{"Form12", Puesto::hija, construir<Ui::MarcoExportar>},
 };
 
 }  // namespace

@@ -40,6 +40,22 @@ TEST_F(Dibujo, SeveralProjectsWantANameEach) {
   EXPECT_TRUE(fs::exists(ruta("dos.svg")));
 }
 
+TEST_F(Dibujo, ACadDrawingReplacesTheFormerOneWithoutAQuestion) {
+  const std::string canal = proyecto("canal.cvr");
+  // the run is alone with its file: nothing of a former run stays in it, and nobody is asked
+  for (int i = 0; i < 2; ++i) {
+    const Corrida corrida = correr({"--json", "--responder", "no", "--dxf", ruta("a.dxf"), canal});
+    ASSERT_EQ(corrida.estado, 0) << corrida.errores;
+    EXPECT_EQ(corrida.objetos()[0]["mensajes"].size(), 0u);
+  }
+  const std::string dxf = carpeta.leer("a.dxf");
+  EXPECT_NE(dxf.find("\nEst:0+340.00\n"), std::string::npos);
+  EXPECT_EQ(dxf.find("\nEst:0+340.00\n"), dxf.rfind("\nEst:0+340.00\n"));
+  EXPECT_EQ(correr({"--dxf", ruta("x.dxf"), canal, proyecto("otro.cvr")}).estado, 2);
+  EXPECT_EQ(correr({"--dxf", ruta("x{}.dxf"), canal, proyecto("otro.cvr")}).estado, 0);
+  EXPECT_TRUE(fs::exists(ruta("xotro.dxf")));
+}
+
 TEST_F(Dibujo, WhatCannotBeDrawnIsTold) {
   const std::string canal = proyecto("canal.cvr");
   const struct {
@@ -50,6 +66,9 @@ TEST_F(Dibujo, WhatCannotBeDrawnIsTold) {
       {{"--dibujo", ruta("x.svg"), "--vista", "vistaLateral"}, 2, "vistaTanque"},
       {{"--dibujo", ruta("x.bmp")}, 2, "x.bmp"},
       {{"--dibujo", ruta("no/hay/x.svg")}, 2, "x.svg"},
+      {{"--dxf", ruta("no/hay/x.dxf")}, 2, "x.dxf"},
+      {{"--dxf", "/dev/full"}, 2, "/dev/full"},
+      {{"--dxf", ruta("x.svg"), "--campo", "Form10.Text13=0.0001"}, 1, "SUB CRITICO"},
       // a chute that flows slowly is not calculated to its end: there is no drawing
       {{"--dibujo", ruta("x.svg"), "--campo", "Form10.Text13=0.0001"}, 1, "SUB CRITICO"},
   };

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "cad/aplicacion_cad.h"
+
+// A drawing as plain records, from which the DXF text is written.
+
+namespace calvento {
+
+struct LineaDxf {
+  PuntoCad a, b;
+};
+struct PolilineaDxf {
+  std::vector<PuntoCad> vertices;  ///< at least two
+};
+struct CirculoDxf {
+  PuntoCad centro;
+  double radio = 0;
+};
+struct TextoDxf {
+  PuntoCad en;
+  std::string texto;
+  double altura = 0;
+  double giro = 0;        ///< radians
+  bool centrado = false;  ///< the point is the middle of the text, else the begin of its base line
+};
+/// A filled triangle, as arrow heads are.
+struct FlechaDxf {
+  PuntoCad punta, izquierda, derecha;
+};
+struct CotaDxf {
+  PuntoCad a, b, texto;
+  double flecha = 0.18;
+  double extension = 0.18;
+  double separacion = 0.0625;
+  double altura = 0.18;
+  int posicion = 0;
+};
+
+struct EntidadDxf {
+  std::variant<LineaDxf, PolilineaDxf, CirculoDxf, TextoDxf, CotaDxf> forma;
+  std::string capa = "0";
+};
+
+struct DatosDxf {
+  std::vector<std::pair<std::string, int>> capas;  ///< name and colour index, in the order they were made
+  std::vector<EntidadDxf> entidades;
+};
+
+}  // namespace calvento

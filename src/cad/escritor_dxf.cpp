@@ -1,0 +1,309 @@
+#include "cad/escritor_dxf.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <dxflib/dl_dxf.h>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <numbers>
+#include <random>
+
+#include "cad/cota_dxf.h"
+#include "modelo/codificacion.h"
+
+namespace calvento {
+
+namespace {
+
+constexpr const char* estiloTexto = "Standard";
+constexpr double escalaVentana = 1.5;  ///< width to height of the view that the drawing opens with
+
+std::string bloqueDeCota(std::size_t numero) { return "*D" + std::to_string(numero); }
+
+/// The rectangle that holds all of a drawing.
+struct Limites {
+  double x1 = 1e20, y1 = 1e20, x2 = -1e20, y2 = -1e20;
+  void incluir(const PuntoCad& p, double margen = 0) {
+    x1 = std::min(x1, p.x - margen), x2 = std::max(x2, p.x + margen);
+    y1 = std::min(y1, p.y - margen), y2 = std::max(y2, p.y + margen);
+  }
+};
+
+Limites limitesDe(const DatosDxf& dibujo) {
+  struct Visita {
+    Limites& l;
+    void operator()(const LineaDxf& e) const { l.incluir(e.a), l.incluir(e.b); }
+    void operator()(const PolilineaDxf& e) const {
+      for (const PuntoCad& p : e.vertices) l.incluir(p);
+    }
+    void operator()(const CirculoDxf& e) const { l.incluir(e.centro, e.radio); }
+    void operator()(const TextoDxf& e) const { l.incluir(e.en, e.altura); }
+    void operator()(const CotaDxf& e) const { l.incluir(e.a), l.incluir(e.b), l.incluir(e.texto, e.altura); }
+  };
+  Limites l;
+  for (const EntidadDxf& e : dibujo.entidades) std::visit(Visita{l}, e.forma);
+  if (l.x1 > l.x2) l = {0, 0, 1, 1};
+  return l;
+}
+
+/// Writes one drawing through the library, section by section.
+class Escritor {
+ public:
+  Escritor(const DatosDxf& dibujo, const std::string& archivo)
+      : dibujo_(dibujo), limites_(limitesDe(dibujo)), w_(dxf_.out(archivo.c_str(), DL_Codes::AC1015)) {
+    if (!w_) throw FalloCad("No se puede preparar el dibujo");
+  }
+
+  void escribir() {
+    cabecera();
+    tablas();
+    bloques();
+    w_->sectionEntities();
+    std::size_t cota = 0;
+    for (const EntidadDxf& e : dibujo_.entidades) {
+      const DL_Attributes a(e.capa, 256, -1, "BYLAYER", 1.0);
+      std::visit([&](const auto& forma) { entidad(forma, a, cota); }, e.forma);
+    }
+    w_->sectionEnd();
+    dxf_.writeObjects(*w_);
+    dxf_.writeObjectsEnd(*w_);
+    w_->dxfEOF();
+    w_->close();
+  }
+
+ private:
+  void variable(const char* nombre, int codigo, int valor) {
+    w_->dxfString(9, nombre);
+    w_->dxfInt(codigo, valor);
+  }
+  void variable(const char* nombre, int codigo, const char* valor) {
+    w_->dxfString(9, nombre);
+    w_->dxfString(codigo, valor);
+  }
+  void variable(const char* nombre, double x, double y) {
+    w_->dxfString(9, nombre);
+    w_->coord(10, x, y, 0);
+  }
+
+  void cabecera() {
+    w_->sectionHeader();
+    variable("$ACADVER", 1, "AC1015");
+    variable("$DWGCODEPAGE", 3, "ANSI_1252");
+    w_->dxfString(9, "$HANDSEED");
+    w_->dxfHex(5, static_cast<int>(0x10000 + 0x20 * dibujo_.entidades.size()));
+    variable("$INSUNITS", 70, 6);  // metres
+    variable("$MEASUREMENT", 70, 1);
+    variable("$LUNITS", 70, 2);
+    variable("$LUPREC", 70, 3);
+    variable("$EXTMIN", limites_.x1, limites_.y1);
+    variable("$EXTMAX", limites_.x2, limites_.y2);
+    variable("$CLAYER", 8, "0");
+    variable("$TEXTSTYLE", 7, estiloTexto);
+    variable("$DIMSTYLE", 2, estiloTexto);
+    w_->sectionEnd();
+  }
+
+  /// The view that the drawing opens with: all of it.
+  void ventana() {
+    w_->table("VPORT", 1, 8);
+    w_->dxfString(0, "VPORT");
+    w_->handle(5);
+    w_->dxfString(100, "AcDbSymbolTableRecord");
+    w_->dxfString(100, "AcDbViewportTableRecord");
+    w_->dxfString(2, "*Active");
+    w_->dxfInt(70, 0);
+    const auto par = [this](int codigo, double x, double y) {
+      w_->dxfReal(codigo, x);
+      w_->dxfReal(codigo + 10, y);
+    };
+    par(10, 0, 0);
+    par(11, 1, 1);
+    par(12, (limites_.x1 + limites_.x2) / 2, (limites_.y1 + limites_.y2) / 2);
+    par(13, 0, 0);
+    par(14, 1, 1);
+    par(15, 1, 1);
+    w_->coord(16, 0, 0, 1);
+    w_->coord(17, 0, 0, 0);
+    const double alto = std::max(limites_.y2 - limites_.y1, (limites_.x2 - limites_.x1) / escalaVentana);
+    w_->dxfReal(40, std::max(1.1 * alto, 1.0));
+    w_->dxfReal(41, escalaVentana);
+    w_->dxfReal(42, 50);
+    w_->tableEnd();
+  }
+
+  void tablas() {
+    w_->sectionTables();
+    ventana();
+    static constexpr std::array<const char*, 3> lineas = {"BYBLOCK", "BYLAYER", "CONTINUOUS"};
+    w_->tableLinetypes(static_cast<int>(lineas.size()));
+    for (const char* nombre : lineas) dxf_.writeLinetype(*w_, DL_LinetypeData(nombre, nombre, 0, 0, 0.0));
+    w_->tableEnd();
+    w_->tableLayers(static_cast<int>(dibujo_.capas.size()) + 1);
+    capa("0", 7);
+    for (const auto& [nombre, color] : dibujo_.capas) capa(nombre, color);
+    w_->tableEnd();
+    w_->tableStyle(1);
+    dxf_.writeStyle(*w_, DL_StyleData(estiloTexto, 0, 0, 1, 0, 0, 0.15, "Arial", ""));
+    w_->tableEnd();
+    dxf_.writeView(*w_);
+    dxf_.writeUcs(*w_);
+    w_->tableAppid(1);
+    dxf_.writeAppid(*w_, "ACAD");
+    w_->tableEnd();
+    const CotaDxf usual;
+    dxf_.writeDimStyle(*w_, usual.flecha, usual.extension, usual.separacion, usual.altura / 2, usual.altura);
+    dxf_.writeBlockRecord(*w_);
+    const auto cotas = std::count_if(dibujo_.entidades.begin(), dibujo_.entidades.end(),
+                                     [](const EntidadDxf& e) { return std::holds_alternative<CotaDxf>(e.forma); });
+    for (std::ptrdiff_t i = 1; i <= cotas; ++i) dxf_.writeBlockRecord(*w_, bloqueDeCota(static_cast<std::size_t>(i)));
+    w_->tableEnd();
+    w_->sectionEnd();
+  }
+
+  void capa(const std::string& nombre, int color) {
+    dxf_.writeLayer(*w_, DL_LayerData(nombre, 0), DL_Attributes("", color, -1, "CONTINUOUS", 1.0));
+  }
+
+  void abrirBloque(const std::string& nombre) { dxf_.writeBlock(*w_, DL_BlockData(nombre, 0, 0, 0, 0)); }
+
+  /// Each dimension has a block with its picture, for viewers that do not compute dimensions.
+  void bloques() {
+    w_->sectionBlocks();
+    for (const char* nombre : {"*Model_Space", "*Paper_Space", "*Paper_Space0"}) {
+      abrirBloque(nombre);
+      dxf_.writeEndBlock(*w_, nombre);
+    }
+    std::size_t numero = 0;
+    for (const EntidadDxf& e : dibujo_.entidades) {
+      const auto* cota = std::get_if<CotaDxf>(&e.forma);
+      if (cota == nullptr) continue;
+      const std::string nombre = bloqueDeCota(++numero);
+      abrirBloque(nombre);
+      const DL_Attributes a("0", 0, -1, "BYBLOCK", 1.0);
+      const DibujoCota d = dibujarCota(*cota);
+      std::size_t ninguna = 0;
+      for (const LineaDxf& l : d.lineas) entidad(l, a, ninguna);
+      for (const FlechaDxf& f : d.flechas) flecha(f, a);
+      entidad(d.texto, a, ninguna);
+      dxf_.writeEndBlock(*w_, nombre);
+    }
+    w_->sectionEnd();
+  }
+
+  void entidad(const LineaDxf& e, const DL_Attributes& a, std::size_t&) {
+    dxf_.writeLine(*w_, DL_LineData(e.a.x, e.a.y, e.a.z, e.b.x, e.b.y, e.b.z), a);
+  }
+  void entidad(const PolilineaDxf& e, const DL_Attributes& a, std::size_t&) {
+    dxf_.writePolyline(*w_, DL_PolylineData(static_cast<int>(e.vertices.size()), 0, 0, 0), a);
+    for (const PuntoCad& p : e.vertices) dxf_.writeVertex(*w_, DL_VertexData(p.x, p.y, p.z));
+    dxf_.writePolylineEnd(*w_);
+  }
+  void entidad(const CirculoDxf& e, const DL_Attributes& a, std::size_t&) {
+    dxf_.writeCircle(*w_, DL_CircleData(e.centro.x, e.centro.y, e.centro.z, e.radio), a);
+  }
+  void entidad(const TextoDxf& e, const DL_Attributes& a, std::size_t&) {
+    const int horizontal = e.centrado ? 1 : 0;
+    const int vertical = e.centrado ? 2 : 0;
+    const PuntoCad ancla = e.centrado ? e.en : PuntoCad{};
+    dxf_.writeText(*w_,
+                   DL_TextData(e.en.x, e.en.y, e.en.z, ancla.x, ancla.y, ancla.z, e.altura, 1, 0, horizontal, vertical,
+                               aWindows1252(e.texto), estiloTexto, e.giro),
+                   a);
+  }
+  /// Written group by group: the library does not name the block of a dimension.
+  void entidad(const CotaDxf& e, const DL_Attributes& a, std::size_t& numero) {
+    const DibujoCota d = dibujarCota(e);
+    w_->entity("DIMENSION");
+    w_->dxfString(100, "AcDbEntity");
+    w_->entityAttributes(a);
+    w_->dxfString(100, "AcDbDimension");
+    w_->dxfString(2, bloqueDeCota(++numero));
+    w_->coord(10, d.enLinea.x, d.enLinea.y, d.enLinea.z);
+    w_->coord(11, e.texto.x, e.texto.y, e.texto.z);
+    constexpr int alineada = 1, bloquePropio = 32, textoColocado = 128;
+    w_->dxfInt(70, alineada + bloquePropio + textoColocado);
+    w_->dxfInt(71, 5);
+    w_->dxfReal(42, d.medida);
+    w_->dxfString(1, "");
+    w_->dxfString(3, estiloTexto);
+    w_->dxfString(100, "AcDbAlignedDimension");
+    w_->coord(13, e.a.x, e.a.y, e.a.z);
+    w_->coord(14, e.b.x, e.b.y, e.b.z);
+    w_->dxfReal(50, std::atan2(e.b.y - e.a.y, e.b.x - e.a.x) * 180 / std::numbers::pi);
+    ajustesDeCota(e);
+  }
+  /// What this dimension has of its own beside the style: sizes, three decimals without trailing zeros.
+  void ajustesDeCota(const CotaDxf& e) {
+    w_->dxfString(1001, "ACAD");
+    w_->dxfString(1000, "DSTYLE");
+    w_->dxfString(1002, "{");
+    const std::array<std::pair<int, double>, 5> medidas = {
+        {{41, e.flecha}, {42, e.separacion}, {44, e.extension}, {140, e.altura}, {147, e.altura / 2}}};
+    for (const auto& [codigo, valor] : medidas) {
+      w_->dxfInt(1070, codigo);
+      w_->dxfReal(1040, valor);
+    }
+    const std::array<std::pair<int, int>, 3> modos = {{{77, e.posicion}, {78, 8}, {271, 3}}};
+    for (const auto& [codigo, valor] : modos) {
+      w_->dxfInt(1070, codigo);
+      w_->dxfInt(1070, valor);
+    }
+    w_->dxfString(1002, "}");
+  }
+  void flecha(const FlechaDxf& f, const DL_Attributes& a) {
+    const auto& [p, i, d] = f;
+    dxf_.writeSolid(*w_, DL_SolidData(p.x, p.y, p.z, i.x, i.y, i.z, d.x, d.y, d.z, d.x, d.y, d.z, 0), a);
+  }
+
+  const DatosDxf& dibujo_;
+  Limites limites_;
+  DL_Dxf dxf_;
+  std::unique_ptr<DL_WriterA> w_;
+};
+
+/// A file of its own for the library, which writes to files only; it goes with the object.
+class ArchivoTemporal {
+ public:
+  ArchivoTemporal() {
+    namespace fs = std::filesystem;
+    std::error_code ec;
+    const fs::path carpeta = fs::temp_directory_path(ec);
+    std::random_device azar;
+    for (int i = 0; i < 100 && !ec; ++i) {
+      carpeta_ = carpeta / ("calvento-dxf-" + std::to_string(azar()));
+      if (fs::create_directory(carpeta_, ec)) return;
+    }
+    throw FalloCad("No se puede preparar el dibujo: no hay carpeta temporal");
+  }
+  ArchivoTemporal(const ArchivoTemporal&) = delete;
+  ArchivoTemporal& operator=(const ArchivoTemporal&) = delete;
+  ~ArchivoTemporal() {
+    std::error_code ec;
+    std::filesystem::remove_all(carpeta_, ec);
+  }
+  std::string ruta() const { return (carpeta_ / "dibujo.dxf").string(); }
+  std::string contenido() const {
+    std::ifstream f(ruta(), std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(f), {});
+  }
+
+ private:
+  std::filesystem::path carpeta_;
+};
+
+}  // namespace
+
+std::string comoDxf(const DatosDxf& dibujo) {
+  const ArchivoTemporal temporal;
+  Escritor(dibujo, temporal.ruta()).escribir();
+  std::string contenido = temporal.contenido();
+  // the library does not tell of a full disk: a whole file ends in its mark
+  if (contenido.find("\nEOF", contenido.size() < 8 ? 0 : contenido.size() - 8) == std::string::npos)
+    throw FalloCad("No se puede preparar el dibujo: el disco está lleno");
+  return contenido;
+}
+
+}  // namespace calvento

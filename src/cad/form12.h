@@ -1,0 +1,24 @@
+#pragma once
+
+#include "cad/marco_exportar.h"
+#include "poza/form2.h"
+
+namespace calvento {
+
+/// Sends a chute to a CAD drawing.
+class Form12 : public MarcoExportar {
+ public:
+  Form12(DesignState& estado, const Form2& parametros, Dialogos& dialogos, Navegador& navegador, ConexionCad& conexion)
+      : MarcoExportar("Form12", estado, dialogos, navegador, conexion), parametros_(parametros) {}
+
+ private:
+  Cuadricula cuadricula() const override;
+  void enviarFigura(Envio& envio) override;
+  void DIBUJAGRADIENTE(Envio& envio) override;
+  void ACOTAR(Envio& envio) override;
+  void DIBUBABLOCKS(Envio& envio) override;
+
+  const Form2& parametros_;
+};
+
+}  // namespace calvento

@@ -1,0 +1,112 @@
+#include "cad/marco_exportar.h"
+
+#include <array>
+#include <stdexcept>
+#include <utility>
+
+#include "comun/numeros.h"
+#include "plataforma/campos.h"
+
+namespace calvento {
+
+namespace {
+
+/// No grid that anybody reads has more lines in one direction.
+constexpr int masLineas = 10000;
+
+/// Lets a loop from one limit to the other end: an interval that does not advance, or hardly does, is a failure.
+void comprobarPaso(Real desde, Real hasta, Real paso) {
+  if (!(paso > 0) || (hasta - desde) / paso > masLineas) fallar(Motivo::sinConvergencia);
+}
+
+}  // namespace
+
+Real metroEntero(Real valor) { return Round(valor, 0); }
+
+MarcoExportar::MarcoExportar(std::string_view nombre, DesignState& estado, Dialogos& dialogos, Navegador& navegador,
+                             ConexionCad& conexion)
+    : Ventana(nombre, "Exportar Diseño al AutoCAD 2010"), estado_(estado), dialogos_(dialogos), conexion_(conexion) {
+  osProgress1.Visible = false;
+  seleccionarAlEnfocar(*this);
+  Command3.Click = [this] { Command3_Click(); };
+  Command4.Click = [this, &navegador] { navegador.descargar(*this); };
+}
+
+void MarcoExportar::Command3_Click() {
+  osProgress1.Visible = true;
+  osProgress1.Min = 0;
+  osProgress1.Value = 0;
+  osProgress1.Max = 100;
+  motivo_.clear();
+  try {
+    estado_.cadIntervaloV = Val(Text10.Text);
+    estado_.cadIntervaloH = Val(Text11.Text);
+    estado_.cadAlturaTexto = Val(Text12.Text);
+    AplicacionCad* cad = conexion_.obtener();
+    if (cad == nullptr) cad = conexion_.crear();
+    if (cad == nullptr) {
+      motivo_ = conexion_.error();
+      dialogos_.aviso(motivo_);
+      return;
+    }
+    try {
+      exportar(*cad);
+    } catch (const std::runtime_error&) {
+      cad->soltar();  // what was sent stays
+      throw;
+    }
+    cad->soltar();
+    osProgress1.Visible = false;
+  } catch (const std::runtime_error& fallo) {
+    motivo_ = fallo.what();
+    dialogos_.fallo("Problemas con la conexión");
+  }
+}
+
+void MarcoExportar::exportar(AplicacionCad& cad) {
+  cad.Visible(true);
+  static constexpr std::array<std::pair<const char*, int>, 6> colores = {{{capas::estructura, 1},
+                                                                          {capas::canal, 7},
+                                                                          {capas::cuadricula, 8},
+                                                                          {capas::textos, 1},
+                                                                          {capas::agua, 4},
+                                                                          {capas::energia, 3}}};
+  for (const auto& [nombre, color] : colores) cad.ActiveDocument().capa(nombre).color(color);
+  enviarCuadricula(cad);
+  Envio envio(cad, Real(estado_.progresivaInicio).valor(), Real(estado_.cadAlturaTexto).valor());
+  enviarFigura(envio);
+  if (Check1.Value) DIBUJAGRADIENTE(envio);
+  ACOTAR(envio);
+  DIBUBABLOCKS(envio);
+}
+
+void MarcoExportar::enviarCuadricula(AplicacionCad& cad) {
+  const auto [Xa, Xb, Za, Zb] = cuadricula();
+  // the grid is laid out in stations already
+  Envio envio(cad, 0, Real(estado_.cadAlturaTexto).valor());
+  const auto linea = [&envio](Real x1, Real y1, Real x2, Real y2) {
+    envio.linea({x1.valor(), y1.valor()}, {x2.valor(), y2.valor()}, capas::cuadricula);
+  };
+  const Real abajo = Za - 1;
+  const Real arriba = Zb + 1;
+
+  comprobarPaso(abajo, arriba, estado_.cadIntervaloV);
+  for (Real e = abajo; e <= arriba; e += estado_.cadIntervaloV) {
+    envio.texto(formato(e, "0.00"), {(Xa - 1).valor(), e.valor()});
+    linea(Xa, e, Xb, e);
+    avance(Round(30 * (e - Za + 1) / (Zb + 2 - Za), 1));
+  }
+  // the edges of the grid stand always, over the last line where the steps end on it
+  linea(Xa, arriba, Xb, arriba);
+  avance(30);
+
+  comprobarPaso(Xa, Xb, estado_.cadIntervaloH);
+  for (Real x = Xa; x <= Xb; x += estado_.cadIntervaloH) {
+    envio.texto(formato(x, "0+000"), {x.valor(), abajo.valor()}, piCorto / 2);
+    linea(x, abajo, x, arriba);
+    avance(30 + Round(40 * (x - Xa) / (Xb - Xa), 1));
+  }
+  linea(Xb, abajo, Xb, arriba);
+}
+
+}  // namespace calvento

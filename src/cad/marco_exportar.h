@@ -1,0 +1,64 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "cad/aplicacion_cad.h"
+#include "cad/envio.h"
+#include "modelo/design_state.h"
+#include "plataforma/control.h"
+#include "plataforma/dialogos.h"
+#include "plataforma/navegador.h"
+#include "plataforma/ventana.h"
+
+namespace calvento {
+
+/// The window that sends a finished design to a CAD drawing as profile and plan: options of the grid, connection,
+/// layers, grid, progress, closing. A structure adds its figure.
+class MarcoExportar : public Ventana {
+ public:
+  TextBox Text10{*this, "Text10", "1"};     ///< between horizontal lines of the grid, m
+  TextBox Text11{*this, "Text11", "5"};     ///< between vertical lines, m
+  TextBox Text12{*this, "Text12", "0.15"};  ///< height of the texts, drawing units
+  CheckBox Check1{*this, "Check1"};         ///< also the energy line
+  ProgressBar osProgress1{*this, "osProgress1"};
+  CommandButton Command3{*this, "Command3"};
+  CommandButton Command4{*this, "Command4"};
+
+  CommandButton* botonPredeterminado() override { return &Command3; }
+  void Command3_Click();
+  /// Why the last run ended early; empty where it ran to its end.
+  const std::string& motivo() const { return motivo_; }
+
+ protected:
+  MarcoExportar(std::string_view nombre, DesignState& estado, Dialogos& dialogos, Navegador& navegador,
+                ConexionCad& conexion);
+
+  /// What the grid encloses, in whole metres: stations and elevations.
+  struct Cuadricula {
+    Real Xa, Xb, Za, Zb;
+  };
+  virtual Cuadricula cuadricula() const = 0;
+  /// Texts and outlines, with their progress from 75 to 100.
+  virtual void enviarFigura(Envio& envio) = 0;
+  virtual void DIBUJAGRADIENTE(Envio& envio) = 0;
+  virtual void ACOTAR(Envio& envio) = 0;
+  virtual void DIBUBABLOCKS(Envio& envio) = 0;
+
+  void avance(Real valor) { osProgress1.Value = valor.valor(); }
+  const DesignState& estado() const { return estado_; }
+
+ private:
+  void exportar(AplicacionCad& cad);
+  void enviarCuadricula(AplicacionCad& cad);
+
+  DesignState& estado_;
+  Dialogos& dialogos_;
+  ConexionCad& conexion_;
+  std::string motivo_;
+};
+
+/// Whole metres of a grid's limit.
+Real metroEntero(Real valor);
+
+}  // namespace calvento

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "modelo/design_state.h"
+
+namespace calvento {
+
+/// The plan of a figure: the widest water surface, and the world Y of its axis above the highest point of the section,
+/// m.
+struct Planta {
+  Single anchoMaximo;
+  Single eje;
+};
+/// Fails as the arithmetic does.
+Planta plantaRapida(const DesignState& estado);
+
+}  // namespace calvento
