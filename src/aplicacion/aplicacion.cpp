@@ -10,6 +10,7 @@
 #include "caida_vertical/form16.h"
 #include "comun/fallo.h"
 #include "dibujo/form3.h"
+#include "dibujo/ventana_secciones.h"
 #include "hidraulica/form14.h"
 #include "hidraulica/form15.h"
 #include "modelo/archivo_proyecto.h"
@@ -43,6 +44,9 @@ const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
       {"Form5", [](Aplicacion& a) { return std::make_unique<Form5>(a.estado, a.form2(), a); }},
       {"Form21", [](Aplicacion& a) { return std::make_unique<Form21>(a.estado, a.form2(), a); }},
       {"Form23", [](Aplicacion& a) { return std::make_unique<Form23>(a.estado, a.form2(), a); }},
+      {"Form19", [](Aplicacion& a) { return std::make_unique<Form19>(a.estado, a); }},
+      {"Form20", [](Aplicacion& a) { return std::make_unique<Form20>(a.estado, a); }},
+      {"Form24", [](Aplicacion& a) { return std::make_unique<Form24>(a.estado, a); }},
       {"Form11", [](Aplicacion& a) { return std::make_unique<Form11>(a.estado, a); }},
       {"Form6", [](Aplicacion& a) { return std::make_unique<Form6>(a.estado, a); }},
       {"Form8", [](Aplicacion& a) { return std::make_unique<Form8>(a.estado, a); }},

@@ -36,17 +36,17 @@ void cadenaCotas(Lienzo& lienzo, const CadenaCotas& cadena) {
   flechaHorizontal(lienzo, {cadena.hasta, nivel}, -1);
 }
 
-void cotaVertical(Lienzo& lienzo, double x, double abajo, double arriba) {
+void cotaVertical(Lienzo& lienzo, double x, double abajo, double arriba, double largo) {
   const double medio = (abajo + arriba) / 2;
   const double hueco = alto(2000);
   lienzo.Line({x, abajo}, {x, medio - hueco});
   lienzo.Line({x, medio + hueco}, {x, arriba});
-  flechasVerticales(lienzo, x, abajo, arriba);
+  flechasVerticales(lienzo, x, abajo, arriba, largo);
 }
 
-void flechasVerticales(Lienzo& lienzo, double x, double abajo, double arriba) {
-  flechaVertical(lienzo, {x, abajo}, 1);
-  flechaVertical(lienzo, {x, arriba}, -1);
+void flechasVerticales(Lienzo& lienzo, double x, double abajo, double arriba, double largo) {
+  flechaVertical(lienzo, {x, abajo}, 1, largo);
+  flechaVertical(lienzo, {x, arriba}, -1, largo);
 }
 
 void flechaGuia(Lienzo& lienzo, Punto p, double fi) {

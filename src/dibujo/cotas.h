@@ -38,9 +38,9 @@ struct CotaAltura {
 };
 
 /// A vertical dimension with arrows at both ends and its line split round the label.
-void cotaVertical(Lienzo& lienzo, double x, double abajo, double arriba);
+void cotaVertical(Lienzo& lienzo, double x, double abajo, double arriba, double largo = largoFlecha);
 /// The arrows of a vertical dimension without its line.
-void flechasVerticales(Lienzo& lienzo, double x, double abajo, double arriba);
+void flechasVerticales(Lienzo& lienzo, double x, double abajo, double arriba, double largo = largoFlecha);
 
 /// Head of a leader at a point: fi is the angle of the leader, degrees.
 void flechaGuia(Lienzo& lienzo, Punto p, double fi);

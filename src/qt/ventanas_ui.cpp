@@ -12,10 +12,13 @@
 #include "ui_Form14.h"
 #include "ui_Form15.h"
 #include "ui_Form16.h"
+#include "ui_Form19.h"
 #include "ui_Form2.h"
+#include "ui_Form20.h"
 #include "ui_Form21.h"
 #include "ui_Form22.h"
 #include "ui_Form23.h"
+#include "ui_Form24.h"
 #include "ui_Form25.h"
 #include "ui_Form26.h"
 #include "ui_Form3.h"
@@ -51,6 +54,9 @@ constexpr std::array ventanas_ui = {
     VentanaUi{"Form5", Puesto::hija, construir<Ui::Form5>},
     VentanaUi{"Form21", Puesto::hija, construir<Ui::Form21>},
     VentanaUi{"Form23", Puesto::hija, construir<Ui::Form23>},
+    VentanaUi{"Form19", Puesto::hija, construir<Ui::Form19>},
+    VentanaUi{"Form20", Puesto::hija, construir<Ui::Form20>},
+    VentanaUi{"Form24", Puesto::hija, construir<Ui::Form24>},
     VentanaUi{"Form11", Puesto::hija, construir<Ui::Form11>},
     VentanaUi{"Form6", Puesto::hija, construir<Ui::Form6>},
     VentanaUi{"Form8", Puesto::hija, construir<Ui::Form8>},
