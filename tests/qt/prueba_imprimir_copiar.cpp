@@ -1,0 +1,144 @@
+// What every window can do: be printed on one page and be copied; and the export window on the desktop.
+#include <gtest/gtest.h>
+#include <set>
+
+#include <QClipboard>
+#include <QFile>
+#include <QGuiApplication>
+#include <QMainWindow>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QProcess>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "apoyo/dialogos_guion.h"
+#include "qt/cadena.h"
+#include "qt/impresion.h"
+#include "qt/programa.h"
+
+namespace calvento {
+namespace {
+
+/// The program with a calculated chute, from which result windows can be opened.
+class ConDiseno : public testing::Test {
+ protected:
+  void SetUp() override {
+    programa.aplicacion.arrancar();
+    programa.aplicacion.abrirProyecto(RAIZ_PROYECTO "/ejemplos/04-tres-tramos.cvr");
+    ASSERT_TRUE(carpeta.isValid());
+  }
+  DialogosGuion dialogos;
+  Programa programa{dialogos};
+  QTemporaryDir carpeta;
+};
+
+/// Numbers that pdfinfo tells: pages, width and height in points.
+struct HojaPdf {
+  int paginas = 0;
+  double ancho = 0, alto = 0;
+};
+HojaPdf leerPdf(const QString& archivo) {
+  QProcess p;
+  p.start("pdfinfo", {archivo});
+  p.waitForFinished();
+  HojaPdf h;
+  for (const QString& linea : QString::fromUtf8(p.readAllStandardOutput()).split('\n')) {
+    const QStringList partes = linea.split(' ', Qt::SkipEmptyParts);
+    if (linea.startsWith("Pages:")) h.paginas = partes[1].toInt();
+    if (linea.startsWith("Page size:")) h.ancho = partes[2].toDouble(), h.alto = partes[4].toDouble();
+  }
+  return h;
+}
+
+TEST_F(ConDiseno, EveryWindowIsPrintedOnOnePageAndCopiedWhole) {
+  if (QStandardPaths::findExecutable("pdfinfo").isEmpty()) GTEST_SKIP() << "pdfinfo is not installed";
+  dialogos.tolera(DialogosGuion::Clase::fallo);  // a window of another structure may have nothing to show
+  int vistas = 0;
+  for (const VentanaUi& ui : ventanasUi()) {
+    SCOPED_TRACE(ui.nombre);
+    Ventana* ventana = programa.aplicacion.cargar(ui.nombre);
+    if (ventana == nullptr) continue;
+    programa.aplicacion.mostrar(ui.nombre);
+    QTest::qWait(0);
+    QMainWindow* vista = programa.sistema.vista(ui.nombre);
+    ASSERT_NE(vista, nullptr);
+    ++vistas;
+
+    const QString archivo = carpeta.filePath("hoja.pdf");
+    QPrinter pdf(QPrinter::HighResolution);
+    pdf.setOutputFormat(QPrinter::PdfFormat);
+    pdf.setOutputFileName(archivo);
+    ASSERT_TRUE(imprimirVista(*vista, pdf));
+    const HojaPdf hoja = leerPdf(archivo);
+    EXPECT_EQ(hoja.paginas, 1);
+    if (ui.nombre != "frmMain") {
+      const int alto = vista->height() - (vista->menuWidget() != nullptr ? vista->menuWidget()->height() : 0);
+      EXPECT_EQ(hoja.ancho > hoja.alto, vista->width() > alto) << "the page lies as the window does";
+    }
+
+    QGuiApplication::clipboard()->clear();
+    programa.aplicacion.copiar(*ventana);
+    QTest::qWait(0);
+    const QImage copia = QGuiApplication::clipboard()->image();
+    EXPECT_EQ(copia.size() / copia.devicePixelRatio(), programa.sistema.marco(ui.nombre)->size());
+    std::set<QRgb> colores;
+    for (int y = 0; y < copia.height(); y += 3)
+      for (int x = 0; x < copia.width(); x += 3) colores.insert(copia.pixel(x, y));
+    EXPECT_GT(colores.size(), 3u) << "the picture shows nothing";
+    if (ui.nombre != "frmMain") programa.aplicacion.ocultar(*ventana);
+  }
+  EXPECT_GE(vistas, 15);
+}
+
+TEST_F(ConDiseno, WithoutAPrinterOneShortMessageIsAll) {
+  if (!QPrinterInfo::defaultPrinter().isNull()) GTEST_SKIP() << "this machine has a default printer";
+  programa.aplicacion.mostrar("Form15");
+  dialogos.esperaFallo("No hay una impresora predeterminada");
+  programa.aplicacion.imprimir(*programa.aplicacion.cargada("Form15"));
+  EXPECT_TRUE(dialogos.dichas.empty()) << "before the menu could close";
+  QTest::qWait(0);
+  EXPECT_EQ(dialogos.dichas.size(), 1u);
+}
+
+/// Notes what a progress bar showed each time it was painted.
+class Testigo : public QObject {
+ public:
+  explicit Testigo(QProgressBar& barra) : barra_(barra) { barra.installEventFilter(this); }
+  std::set<int> pintados;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* evento) override {
+    if (evento->type() == QEvent::Paint) pintados.insert(barra_.value());
+    return false;
+  }
+
+ private:
+  QProgressBar& barra_;
+};
+
+TEST_F(ConDiseno, TheExportWindowShowsItsProgressWhileItRuns) {
+  programa.aplicacion.mostrar("Form3");
+  programa.aplicacion.mostrar("Form12");
+  QTest::qWait(0);
+  QMainWindow* vista = programa.sistema.vista("Form12");
+  auto* barra = vista->findChild<QProgressBar*>("osProgress1");
+  EXPECT_TRUE(barra->isHidden());
+  Testigo testigo(*barra);
+  const QString archivo = carpeta.filePath("diseño.dxf");
+  dialogos.guarda(deQt(archivo)).guarda(deQt(carpeta.filePath("no/hay/x.dxf")));
+  QTest::mouseClick(vista->findChild<QPushButton*>("Command3"), Qt::LeftButton);
+  EXPECT_TRUE(QFile::exists(archivo));
+  EXPECT_TRUE(barra->isHidden());
+  for (const int valor : {30, 75, 80, 85, 90, 95, 97, 100}) EXPECT_TRUE(testigo.pintados.contains(valor)) << valor;
+
+  dialogos.esperaFallo("Problemas con la conexión");
+  QTest::mouseClick(vista->findChild<QPushButton*>("Command3"), Qt::LeftButton);
+  EXPECT_FALSE(barra->isHidden()) << "it stays at what it had";
+}
+
+}  // namespace
+}  // namespace calvento
