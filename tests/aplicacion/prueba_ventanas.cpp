@@ -85,6 +85,21 @@ TEST(Windows, AnUnloadedOneComesBackWithItsDefaultsAHiddenOneWithItsTexts) {
   EXPECT_EQ(p.a.estado.tipoTanque.valor(), 0) << "the button that cancels clears it";
 }
 
+TEST(Windows, AReportThatFailsIsToldInOneBoxAndDoesNotOpen) {
+  Programa p;
+  auto& rapida = *p.a.cargar<Form10>("Form10");
+  rapida.Text5.Text = "4";
+  for (const char* reporte : {"Form11", "Form6", "Form7"}) {
+    p.dialogos.esperaFallo();
+    p.a.mostrar(reporte);
+    p.dialogos.comprobarGastado();
+    EXPECT_EQ(p.a.cargada(reporte), nullptr) << reporte;
+  }
+  EXPECT_TRUE(p.sistema.llamadas.empty());
+  EXPECT_EQ(p.a.cargada("Form10"), &rapida);
+  EXPECT_EQ(rapida.Text5.Text.valor(), "4");
+}
+
 TEST(Windows, AProjectOpensInTheWindowOfItsExtension) {
   Programa p;
   EXPECT_FALSE(p.a.abrirProyecto("a.txt"));

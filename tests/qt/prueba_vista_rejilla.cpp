@@ -85,6 +85,21 @@ TEST_F(TablaEnPantalla, LosTitulosIgualesSeUnenYSiguenSiendoLaFilaCero) {
   EXPECT_EQ(widget.columnSpan(0, 1), 1);
 }
 
+TEST_F(TablaEnPantalla, VariasFilasDeTitulosSonLineasDeLaCabecera) {
+  v.Grid1.tabla.filasTitulo = 2;
+  mostrar();
+  EXPECT_EQ(widget.rowCount(), 2);
+  EXPECT_EQ(widget.horizontalHeaderItem(0)->text(), "Tipo de Disipador\nUSBR - I");
+  EXPECT_EQ(widget.item(0, 0)->text(), "SAF");
+  EXPECT_GT(widget.horizontalHeader()->height(), 2 * widget.fontMetrics().lineSpacing());
+  pulsarCelda(0, 2);
+  EXPECT_EQ(filas, (std::vector<int>{2}));
+  widget.clearSelection();
+  // both go to the spreadsheet, and the row without texts stays behind
+  EXPECT_EQ(deQt(vista.copia()->text()),
+            "Tipo de Disipador\tFroude\tCausas\nUSBR - I\t2.5 <= Fr <4.5\ta & b\nSAF\t\tuna causa mucho más larga");
+}
+
 TEST_F(TablaEnPantalla, NingunTextoSeCorta) {
   v.Grid1.tabla.ponerAncho(2, 300);
   v.Grid1.tabla.ponerAncho(1, 6000);
