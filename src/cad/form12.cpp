@@ -2,6 +2,7 @@
 
 #include "comun/numeros.h"
 #include "dibujo/planta.h"
+#include "dibujo/rotulos_poza.h"
 #include "dibujo/rotulos_rapida.h"
 
 namespace calvento {
@@ -29,19 +30,22 @@ void Form12::enviarFigura(Envio& envio) {
   envio.parEstacion(pares[2 + tramos]);
   avance(90);
   envio.parEstacion(pares[3 + tramos]);
-  envio.pendiente(pendienteAbajo(g));
+  envio.pendiente(pendienteAbajo(g.valores(), g.estaciones()));
   avance(95);
 
   envio.polilinea(g.concreto(), capas::estructura);
   envio.polilinea(g.corona(), capas::canal);
-  for (const auto& borde : g.bordesFondo(eje)) envio.polilinea(borde, capas::canal);
-  envio.lineas(lineasTransversales(g.anchosTransversales(), eje), capas::canal);
-  envio.lineas(rayadoRampas(g.estaciones(), eje, g.medioAnchoTrayectoria(), g.valores().bPoza), capas::canal);
+  const PlantaPoza planta = g.planta();
+  for (const auto& borde : planta.bordesFondo(eje)) envio.polilinea(borde, capas::canal);
+  envio.lineas(lineasTransversales(planta.transversales(), eje), capas::canal);
+  envio.lineas(planta.rayado(eje), capas::canal);
   envio.polilinea(g.superficie(), capas::agua);
   avance(97);
   envio.polilinea(g.canal(), capas::estructura);
   envio.polilinea(g.canalAbajo(), capas::estructura);
-  for (const int lado : {-1, 1}) envio.polilinea(muroPlanta(g.anchosPlanta(), eje, lado), capas::estructura);
+  const auto anchos = planta.anchos();
+  for (const int lado : {-1, 1})
+    envio.polilinea(muroPlanta(anchos, caraExterior(anchos), eje, lado), capas::estructura);
   avance(100);
 }
 

@@ -44,6 +44,10 @@ void cotaVertical(Lienzo& lienzo, double x, double abajo, double arriba, double 
   flechasVerticales(lienzo, x, abajo, arriba, largo);
 }
 
+void cotasVerticales(Lienzo& lienzo, std::span<const CotaAltura> alturas) {
+  for (const CotaAltura& c : alturas) cotaVertical(lienzo, c.x, c.abajo, c.arriba);
+}
+
 void flechasVerticales(Lienzo& lienzo, double x, double abajo, double arriba, double largo) {
   flechaVertical(lienzo, {x, abajo}, 1, largo);
   flechaVertical(lienzo, {x, arriba}, -1, largo);

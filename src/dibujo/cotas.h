@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "plataforma/lienzo.h"
@@ -39,6 +40,7 @@ struct CotaAltura {
 
 /// A vertical dimension with arrows at both ends and its line split round the label.
 void cotaVertical(Lienzo& lienzo, double x, double abajo, double arriba, double largo = largoFlecha);
+void cotasVerticales(Lienzo& lienzo, std::span<const CotaAltura> alturas);
 /// The arrows of a vertical dimension without its line.
 void flechasVerticales(Lienzo& lienzo, double x, double abajo, double arriba, double largo = largoFlecha);
 

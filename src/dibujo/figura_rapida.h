@@ -2,6 +2,7 @@
 
 #include "dibujo/geometria_rapida.h"
 #include "plataforma/lienzo.h"
+#include "poza/reglas_bloques.h"
 
 namespace calvento {
 
@@ -14,8 +15,10 @@ class FiguraRapida {
   FiguraRapida(const DesignState& estado, double ejePlanta, double anchoMaximo)
       : estado_(estado), ejePlanta_(ejePlanta), anchoMaximo_(anchoMaximo) {}
 
-  void POLIGONO(Lienzo& lienzo) const;             ///< clears the canvas; water of the section
-  void PLANTA(Lienzo& lienzo) const;               ///< water and walls of the plan
+  void POLIGONO(Lienzo& lienzo) const;  ///< clears the canvas; water of the section
+  void PLANTA(Lienzo& lienzo) const;    ///< water and walls of the plan
+  /// blocks of the basin in section and plan
+  void DIBUBABLOCKS(Lienzo& lienzo, const MinimoBloques& minimo) const;
   void RAPIDA(Lienzo& lienzo) const;               ///< concrete of trajectory, ramps and basin
   void CANAL(Lienzo& lienzo) const;                ///< lining of upstream canal, sill and chute
   void CANALB(Lienzo& lienzo) const;               ///< lining of the downstream canal

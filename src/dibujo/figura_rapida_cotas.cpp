@@ -3,7 +3,7 @@
 
 #include "dibujo/cotas.h"
 #include "dibujo/figura_rapida.h"
-#include "dibujo/rotulos.h"
+#include "dibujo/rotulos_poza.h"
 #include "dibujo/rotulos_rapida.h"
 
 // The dimension lines of the chute's sheet, in the colour of the pen.
@@ -11,13 +11,6 @@
 namespace calvento {
 
 namespace {
-
-/// The short bar at the top of the exit ramp on the level of the basin floor.
-void barraPoza(Lienzo& lienzo, const GeometriaRapida& g) {
-  const double x = g.estaciones().xPoza2;
-  const double y = g.valores().cotaPoza;
-  lienzo.Line({x - 0.15, y}, {x + 0.05, y});
-}
 
 /// Line under the equation of the trajectory and its leader to the middle of the curve.
 void guiaTrayectoria(Lienzo& lienzo, const GeometriaRapida& g) {
@@ -98,19 +91,19 @@ void FiguraRapida::EJESDIMENSION(Lienzo& lienzo) const {
   const GeometriaRapida g(estado_);
   cadenaCotas(lienzo, cadenaEntrada(g));
   cadenaCotas(lienzo, cadenaSeccion(g));
-  barraPoza(lienzo, g);
+  barraPoza(lienzo, g.valores(), g.estaciones());
   const std::vector<CotaAltura> alturas = alturasAcotadas(g);
-  for (const CotaAltura& c : std::span(alturas).first(alturas.size() - 1)) cotaVertical(lienzo, c.x, c.abajo, c.arriba);
+  cotasVerticales(lienzo, std::span(alturas).first(alturas.size() - 1));
   flechasVerticales(lienzo, alturas.back().x, alturas.back().abajo, alturas.back().arriba);
   guiaTrayectoria(lienzo, g);
-  for (const AnchoEn& a : anchosAcotados(g)) flechasVerticales(lienzo, a.x, ejePlanta_ - a.medio, ejePlanta_ + a.medio);
+  flechasAnchos(lienzo, anchosAcotados(g), ejePlanta_);
 }
 
 void FiguraRapida::EJESDIMENSIONPLANTA(Lienzo& lienzo) const {
   const GeometriaRapida g(estado_);
   cadenaCotas(lienzo, cadenaPlanta(g, pieDePlanta()));
   // it stands in the section, not in the plan: meant so
-  barraPoza(lienzo, g);
+  barraPoza(lienzo, g.valores(), g.estaciones());
 }
 
 }  // namespace calvento

@@ -66,13 +66,29 @@ void trazarBajoPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p) {
   trazo.punto(p.xTrans, fondoTrans - profDentellon).punto(p.xTrans, fondoTrans);
 }
 
-std::vector<Punto> revestimientoAbajo(const Valores& v, const EstacionesPoza& p) {
-  const double espesor = espesorVertical(v.sAbajo);
-  const Punto inicio{p.xTrans, fondoAbajo(v, v.longTransSalida)};
-  const Punto fin{p.xSalida, fondoAbajo(v, v.longTransSalida + canalDibujado)};
+std::vector<Punto> revestimiento(Punto inicio, Punto fin, double pendiente) {
+  const double espesor = espesorVertical(pendiente);
   Trazo trazo;
   trazo.punto(inicio).punto(fin).punto(fin.x, fin.y - espesor).punto(inicio.x, inicio.y - espesor).cerrar();
   return trazo.puntos();
+}
+
+std::vector<Punto> revestimientoAbajo(const Valores& v, const EstacionesPoza& p) {
+  return revestimiento({p.xTrans, fondoAbajo(v, v.longTransSalida)},
+                       {p.xSalida, fondoAbajo(v, v.longTransSalida + canalDibujado)}, v.sAbajo);
+}
+
+void trazarCoronaSalida(Trazo& trazo, const Valores& v, const EstacionesPoza& p) {
+  trazo.punto(p.xTrans, fondoAbajo(v, v.longTransSalida) + v.hAbajo);
+  trazo.punto(p.xSalida, fondoAbajo(v, v.longTransSalida + canalDibujado) + v.hAbajo);
+}
+
+void anadirPuntosPoza(std::vector<Punto>& puntos, const Valores& v, const EstacionesPoza& p) {
+  puntos.push_back({p.xPT, v.cotaTrayectoria});
+  puntos.push_back({p.xPoza0, v.cotaPoza});
+  puntos.push_back({p.xPoza1, v.cotaPoza});
+  puntos.push_back({p.xPoza2, v.cotaAbajo});
+  puntos.push_back({p.xTrans, fondoAbajo(v, v.longTransSalida)});
 }
 
 void trazarEnergiaPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p) {
@@ -86,11 +102,11 @@ void trazarEnergiaPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p) 
 
 namespace {
 
-/// Along the stations at so much outside the half width, onward or backward.
-void trazarBorde(Trazo& trazo, std::span<const AnchoEn> anchos, double eje, int lado, double fuera, bool deVuelta) {
+/// Along the stations at the half width, onward or backward.
+void trazarBorde(Trazo& trazo, std::span<const AnchoEn> anchos, double eje, int lado, bool deVuelta) {
   for (std::size_t i = 0; i < anchos.size(); ++i) {
     const AnchoEn& a = anchos[deVuelta ? anchos.size() - 1 - i : i];
-    trazo.punto(a.x, eje + lado * (a.medio + fuera));
+    trazo.punto(a.x, eje + lado * a.medio);
   }
 }
 
@@ -98,16 +114,22 @@ void trazarBorde(Trazo& trazo, std::span<const AnchoEn> anchos, double eje, int 
 
 std::vector<Punto> aguaPlanta(std::span<const AnchoEn> anchos, double eje) {
   Trazo trazo;
-  trazarBorde(trazo, anchos, eje, -1, 0, false);
-  trazarBorde(trazo, anchos, eje, 1, 0, true);
+  trazarBorde(trazo, anchos, eje, -1, false);
+  trazarBorde(trazo, anchos, eje, 1, true);
   return trazo.cerrar().puntos();
 }
 
-std::vector<Punto> muroPlanta(std::span<const AnchoEn> anchos, double eje, int lado) {
+std::vector<Punto> muroPlanta(std::span<const AnchoEn> dentro, std::span<const AnchoEn> fuera, double eje, int lado) {
   Trazo trazo;
-  trazarBorde(trazo, anchos, eje, lado, 0, false);
-  trazarBorde(trazo, anchos, eje, lado, espesorMuro, true);
+  trazarBorde(trazo, dentro, eje, lado, false);
+  trazarBorde(trazo, fuera, eje, lado, true);
   return trazo.cerrar().puntos();
+}
+
+std::vector<AnchoEn> caraExterior(std::span<const AnchoEn> dentro) {
+  std::vector<AnchoEn> fuera(dentro.begin(), dentro.end());
+  for (AnchoEn& a : fuera) a.medio += espesorMuro;
+  return fuera;
 }
 
 std::vector<Segmento> lineasTransversales(std::span<const AnchoEn> anchos, double eje) {
@@ -118,28 +140,70 @@ std::vector<Segmento> lineasTransversales(std::span<const AnchoEn> anchos, doubl
 
 std::vector<Punto> bordeFondo(std::span<const AnchoEn> anchos, double eje, int lado) {
   Trazo trazo;
-  trazarBorde(trazo, anchos, eje, lado, 0, false);
+  trazarBorde(trazo, anchos, eje, lado, false);
   return trazo.puntos();
 }
 
-double medioAnchoPT(const Valores& v, const EstacionesPoza& p, double bEntrada, double bPoza) {
+double PlantaPoza::medioAnchoPT() const {
   return entre((bPoza - bEntrada) * v.xTrayectoria, p.lRampaE + v.xTrayectoria) / 2 + bEntrada / 2;
 }
 
-std::vector<Segmento> rayadoRampas(const EstacionesPoza& p, double eje, double medioPT, double bPoza) {
+std::array<AnchoEn, 9> PlantaPoza::anchos() const {
+  const double arriba = v.espejoArriba / 2;
+  const double rapida = v.espejoRapida / 2;
+  const double poza = v.espejoPoza / 2;
+  const double abajo = v.espejoAbajo / 2;
+  return {{{x[0], arriba},
+           {x[1], arriba},
+           {x[2], rapida},
+           {x[3], rapida},
+           {p.xPoza0, poza},
+           {p.xPoza1, poza},
+           {p.xPoza2, poza},
+           {p.xTrans, abajo},
+           {p.xSalida, abajo}}};
+}
+
+std::array<AnchoEn, 8> PlantaPoza::transversales() const {
+  const auto a = anchos();
+  return {{a[1], a[2], a[3], {p.xPT, medioAnchoPT()}, a[4], a[5], a[6], a[7]}};
+}
+
+std::vector<std::vector<Punto>> PlantaPoza::bordesFondo(double eje) const {
+  const AnchoEn entrada[] = {
+      {x[0], v.bArriba / 2}, {x[1], v.bArriba / 2}, {x[2], bEntrada / 2}, {x[3], bEntrada / 2}, {p.xPoza0, bPoza / 2}};
+  const AnchoEn salida[] = {{p.xPoza2, bPoza / 2}, {p.xTrans, v.bAbajo / 2}, {p.xSalida, v.bAbajo / 2}};
+  const AnchoEn poza[] = {{p.xPoza0, bPoza / 2}, {p.xPoza2, bPoza / 2}};
+  std::vector<std::vector<Punto>> bordes;
+  for (const int lado : {-1, 1})
+    for (const std::span<const AnchoEn> tramo :
+         {std::span<const AnchoEn>(entrada), std::span<const AnchoEn>(salida), std::span<const AnchoEn>(poza)})
+      bordes.push_back(bordeFondo(tramo, eje, lado));
+  return bordes;
+}
+
+std::vector<Segmento> PlantaPoza::rayado(double eje) const {
+  std::vector<Segmento> rayas;
+  const auto raya = [&](double hasta, double y) { rayas.push_back({{p.xPT, y}, {hasta, y}}); };
+  const double mitad = p.xPT + p.lRampaE / 2;
+  const double medio = medioAnchoPT();
+  raya(mitad, eje);
+  for (const int lado : {-1, 1}) {
+    raya(p.xPoza0, eje + lado * medio / 3);
+    raya(mitad, eje + lado * 2 * medio / 3);
+  }
+  for (const Segmento& s : rayadoRampaSalida(p, eje, bPoza)) rayas.push_back(s);
+  return rayas;
+}
+
+std::vector<Segmento> rayadoRampaSalida(const EstacionesPoza& p, double eje, double anchoPoza) {
   std::vector<Segmento> rayas;
   const auto raya = [&](double desde, double hasta, double y) { rayas.push_back({{desde, y}, {hasta, y}}); };
-  const double mitadE = p.xPT + p.lRampaE / 2;
-  const double mitadS = p.xPoza1 + p.lRampaS / 2;
-  raya(p.xPT, mitadE, eje);
+  const double mitad = p.xPoza1 + p.lRampaS / 2;
+  raya(p.xPoza2, mitad, eje);
   for (const int lado : {-1, 1}) {
-    raya(p.xPT, p.xPoza0, eje + lado * medioPT / 3);
-    raya(p.xPT, mitadE, eje + lado * 2 * medioPT / 3);
-  }
-  raya(p.xPoza2, mitadS, eje);
-  for (const int lado : {-1, 1}) {
-    raya(p.xPoza2, p.xPoza1, eje + lado * bPoza / 6);
-    raya(mitadS, p.xPoza2, eje + lado * 2 * bPoza / 6);
+    raya(p.xPoza2, p.xPoza1, eje + lado * anchoPoza / 6);
+    raya(mitad, p.xPoza2, eje + lado * 2 * anchoPoza / 6);
   }
   return rayas;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <span>
 #include <vector>
 
@@ -57,8 +58,15 @@ void trazarPisoPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p);
 /// on the bisectors and the end cut-off: 7 points.
 void trazarBajoPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p);
 
+/// Lining of a canal under its bed from one point to another, closed: 5 points.
+std::vector<Punto> revestimiento(Punto inicio, Punto fin, double pendiente);
 /// Lining of the downstream canal that begins at xTrans, closed: 5 points.
 std::vector<Punto> revestimientoAbajo(const Valores& v, const EstacionesPoza& p);
+
+/// Top of the lining over the ends of the outlet transition and of the downstream canal: 2 points.
+void trazarCoronaSalida(Trazo& trazo, const Valores& v, const EstacionesPoza& p);
+/// Control points of the bed from the end of the curve to the end of the outlet transition: 5 points.
+void anadirPuntosPoza(std::vector<Punto>& puntos, const Valores& v, const EstacionesPoza& p);
 
 /// Energy line from the toe of the jump to the end of the figure: 5 points.
 void trazarEnergiaPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p);
@@ -70,17 +78,39 @@ struct AnchoEn {
 };
 /// Water of the plan about its axis, closed: two points for each station and one.
 std::vector<Punto> aguaPlanta(std::span<const AnchoEn> anchos, double eje);
-/// One wall of the plan, closed: lado is -1 for the lower one, 1 for the upper one.
-std::vector<Punto> muroPlanta(std::span<const AnchoEn> anchos, double eje, int lado);
+/// One wall of the plan between its inner and its outer side, closed: lado is -1 for the lower one, 1 for the upper
+/// one.
+std::vector<Punto> muroPlanta(std::span<const AnchoEn> dentro, std::span<const AnchoEn> fuera, double eje, int lado);
+/// The outer side of walls of equal thickness.
+std::vector<AnchoEn> caraExterior(std::span<const AnchoEn> dentro);
 /// Lines across the plan, each from side to side.
 std::vector<Segmento> lineasTransversales(std::span<const AnchoEn> anchos, double eje);
 /// An edge of the bed in plan: lado as in muroPlanta.
 std::vector<Punto> bordeFondo(std::span<const AnchoEn> anchos, double eje, int lado);
 
-/// Half width of the bed in plan at the end of the curve, which widens evenly from bEntrada to bPoza over curve and
-/// ramp.
-double medioAnchoPT(const Valores& v, const EstacionesPoza& p, double bEntrada, double bPoza);
-/// Hatch of both ramps in plan; medioPT is the half width at the end of the curve.
-std::vector<Segmento> rayadoRampas(const EstacionesPoza& p, double eje, double medioPT, double bPoza);
+/// The plan of a structure with a curve and an entrance ramp.
+struct PlantaPoza {
+  const Valores& v;
+  const EstacionesPoza& p;
+  /// Start of the drawn canal, start of the inlet transition, and the ends of the stretch behind it that is as wide as
+  /// the entry of the curve.
+  std::array<double, 4> x;
+  double bEntrada;  ///< width of the bed in that stretch
+  double bPoza;     ///< width of the basin floor
+
+  /// Half width of the bed at the end of the curve, which widens evenly over curve and ramp.
+  double medioAnchoPT() const;
+  /// Half widths of the water at the nine stations.
+  std::array<AnchoEn, 9> anchos() const;
+  /// Half widths of the lines across the plan.
+  std::array<AnchoEn, 8> transversales() const;
+  /// Edges of the bed about the axis, three stretches on each side.
+  std::vector<std::vector<Punto>> bordesFondo(double eje) const;
+  /// Hatch of both ramps.
+  std::vector<Segmento> rayado(double eje) const;
+};
+
+/// Hatch of an exit ramp in plan, on a floor of that width.
+std::vector<Segmento> rayadoRampaSalida(const EstacionesPoza& p, double eje, double anchoPoza);
 
 }  // namespace calvento

@@ -145,8 +145,7 @@ std::vector<Punto> GeometriaRapida::corona() const {
   const double ix = xCoronaRampa();
   trazo.punto(ix, entre(p.xPT - ix, v.zRampaEntrada) + v.cotaTrayectoria + v.hRapida);
   trazo.punto(p.xPoza0, v.hPoza + v.cotaPoza).punto(p.xPoza1, v.hPoza + v.cotaPoza);
-  trazo.punto(p.xTrans, fondoAbajo(v, v.longTransSalida) + v.hAbajo);
-  trazo.punto(p.xSalida, fondoAbajo(v, v.longTransSalida + canalDibujado) + v.hAbajo);
+  trazarCoronaSalida(trazo, v, p);
   return trazo.puntos();
 }
 
@@ -171,55 +170,8 @@ std::vector<Punto> GeometriaRapida::energia() const {
 std::vector<Punto> GeometriaRapida::puntosControl() const {
   std::vector<Punto> puntos = {{-v.longTransEntrada, fondoArriba(v.longTransEntrada)}, {0, v.cotaInicio}};
   for (const auto& tramo : tramos()) puntos.push_back(tramo.fin);
-  puntos.push_back({p.xPT, v.cotaTrayectoria});
-  puntos.push_back({p.xPoza0, v.cotaPoza});
-  puntos.push_back({p.xPoza1, v.cotaPoza});
-  puntos.push_back({p.xPoza2, v.cotaAbajo});
-  puntos.push_back({p.xTrans, fondoAbajo(v, v.longTransSalida)});
+  anadirPuntosPoza(puntos, v, p);
   return puntos;
-}
-
-std::array<AnchoEn, 9> GeometriaRapida::anchosPlanta() const {
-  const double arriba = v.espejoArriba / 2;
-  const double rapida = v.espejoRapida / 2;
-  const double poza = v.espejoPoza / 2;
-  const double abajo = v.espejoAbajo / 2;
-  return {{{xCanal(), arriba},
-           {-v.longTransEntrada, arriba},
-           {0, rapida},
-           {v.longRapida, rapida},
-           {p.xPoza0, poza},
-           {p.xPoza1, poza},
-           {p.xPoza2, poza},
-           {p.xTrans, abajo},
-           {p.xSalida, abajo}}};
-}
-
-std::array<AnchoEn, 8> GeometriaRapida::anchosTransversales() const {
-  return {{{-v.longTransEntrada, v.espejoArriba / 2},
-           {0, v.espejoRapida / 2},
-           {v.longRapida, v.espejoRapida / 2},
-           {p.xPT, medioAnchoTrayectoria()},
-           {p.xPoza0, v.espejoPoza / 2},
-           {p.xPoza1, v.espejoPoza / 2},
-           {p.xPoza2, v.espejoPoza / 2},
-           {p.xTrans, v.espejoAbajo / 2}}};
-}
-
-std::vector<std::vector<Punto>> GeometriaRapida::bordesFondo(double eje) const {
-  const AnchoEn entrada[] = {{xCanal(), v.bArriba / 2},
-                             {-v.longTransEntrada, v.bArriba / 2},
-                             {0, v.bRapida / 2},
-                             {v.longRapida, v.bRapida / 2},
-                             {p.xPoza0, v.bPoza / 2}};
-  const AnchoEn salida[] = {{p.xPoza2, v.bPoza / 2}, {p.xTrans, v.bAbajo / 2}, {p.xSalida, v.bAbajo / 2}};
-  const AnchoEn poza[] = {{p.xPoza0, v.bPoza / 2}, {p.xPoza2, v.bPoza / 2}};
-  std::vector<std::vector<Punto>> bordes;
-  for (const int lado : {-1, 1})
-    for (const std::span<const AnchoEn> anchos :
-         {std::span<const AnchoEn>(entrada), std::span<const AnchoEn>(salida), std::span<const AnchoEn>(poza)})
-      bordes.push_back(bordeFondo(anchos, eje, lado));
-  return bordes;
 }
 
 }  // namespace calvento

@@ -34,8 +34,6 @@ class GeometriaRapida {
   Punto puntoUmbral() const;
   /// Elevation of the energy line at the end of the chute.
   double energiaFin() const;
-  /// Half width of the bed in plan at the end of the trajectory.
-  double medioAnchoTrayectoria() const { return medioAnchoPT(v, p, v.bRapida, v.bPoza); }
 
   /// Water body: rows of the profile + 53 + numTramos points.
   std::vector<Punto> agua() const;
@@ -54,12 +52,8 @@ class GeometriaRapida {
   /// Control points of the bed: numTramos + 7 of them.
   std::vector<Punto> puntosControl() const;
 
-  /// Half widths of the water in plan at the nine stations.
-  std::array<AnchoEn, 9> anchosPlanta() const;
-  /// Half widths of the lines across the plan.
-  std::array<AnchoEn, 8> anchosTransversales() const;
-  /// Edges of the bed in plan, three stretches on each side.
-  std::vector<std::vector<Punto>> bordesFondo(double eje) const;
+  /// The plan, about its axis.
+  PlantaPoza planta() const { return {v, p, {xCanal(), -v.longTransEntrada, 0, v.longRapida}, v.bRapida, v.bPoza}; }
 
  private:
   double fondoEnFila(std::size_t fila, double x) const;

@@ -22,10 +22,9 @@ RotuloEcuacion ecuacionTrayectoria(const GeometriaRapida& g);
 /// basin, the top of the ramp out of it.
 std::vector<ParEstacion> paresEstacion(const GeometriaRapida& g);
 
-/// Slopes of the upstream canal, of each reach in its order, and of the downstream canal.
+/// Slopes of the upstream canal, and of each reach in its order.
 RotuloPendiente pendienteArriba(const GeometriaRapida& g);
 std::vector<RotuloPendiente> pendientesTramos(const GeometriaRapida& g);
-RotuloPendiente pendienteAbajo(const GeometriaRapida& g);
 
 /// The inlet transition, the whole section, and the plan from the end of the chute on; pie is the lower edge of the
 /// plan.

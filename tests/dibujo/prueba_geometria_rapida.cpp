@@ -276,7 +276,8 @@ TEST(GeometriaRapida, EnergyLine) {
 TEST(GeometriaRapida, PlanHatchAndControlPoints) {
   const DesignState e = rapidaDeMano(3);
   const GeometriaRapida g(e);
-  const auto anchos = g.anchosPlanta();
+  const PlantaPoza planta = g.planta();
+  const auto anchos = planta.anchos();
   const auto agua = aguaPlanta(anchos, 120);
   ASSERT_EQ(agua.size(), 19U);
   comparar(agua,
@@ -294,18 +295,22 @@ TEST(GeometriaRapida, PlanHatchAndControlPoints) {
             {17, -9, 123},
             {18, -9, 117}},
            "water");
-  const auto muro = muroPlanta(anchos, 120, 1);
+  const auto muro = muroPlanta(anchos, caraExterior(anchos), 120, 1);
   ASSERT_EQ(muro.size(), 19U);
   comparar(muro, {{0, -9, 123}, {8, 42.875, 122.75}, {9, 42.875, 122.9}, {17, -9, 123.15}, {18, -9, 123}}, "upper");
-  comparar(muroPlanta(anchos, 120, -1), {{0, -9, 117}, {9, 42.875, 117.1}, {17, -9, 116.85}}, "lower");
+  comparar(muroPlanta(anchos, caraExterior(anchos), 120, -1), {{0, -9, 117}, {9, 42.875, 117.1}, {17, -9, 116.85}},
+           "lower");
 
   // the bed widens by 1 over 5 m of curve and ramp: at 4 m it is 2.8 wide
-  EXPECT_NEAR(g.medioAnchoTrayectoria(), 1.4, 1e-9);
-  const auto rayas = rayadoRampas(g.estaciones(), 120, 1.5, 3);
+  EXPECT_NEAR(planta.medioAnchoPT(), 1.4, 1e-9);
+  const auto rayas = planta.rayado(120);
   ASSERT_EQ(rayas.size(), 10U);
-  const Segmento esperadas[] = {{{24, 120}, {24.5, 120}},       {{24, 119.5}, {25, 119.5}},
-                                {{24, 121}, {24.5, 121}},       {{34.875, 120}, {33.9375, 120}},
-                                {{34.875, 119.5}, {33, 119.5}}, {{33.9375, 121}, {34.875, 121}}};
+  const Segmento esperadas[] = {{{24, 120}, {24.5, 120}},
+                                {{24, 120 - 1.4 / 3}, {25, 120 - 1.4 / 3}},
+                                {{24, 120 + 2.8 / 3}, {24.5, 120 + 2.8 / 3}},
+                                {{34.875, 120}, {33.9375, 120}},
+                                {{34.875, 119.5}, {33, 119.5}},
+                                {{33.9375, 121}, {34.875, 121}}};
   for (const auto& s : esperadas) EXPECT_EQ(std::count(rayas.begin(), rayas.end(), s), 1) << s.a.x << ' ' << s.a.y;
 
   const auto control = g.puntosControl();
