@@ -74,6 +74,8 @@ std::string leerInicio(const fs::path& archivo, std::size_t maximo) {
   return contenido;
 }
 
+constexpr fs::perms deEscritura = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+
 /// A control character, which no line of a project holds.
 bool esMando(char c) { return static_cast<unsigned char>(c) < 0x20 && c != '\t'; }
 
@@ -142,6 +144,9 @@ void escribirAtomico(const fs::path& archivo, std::string_view contenido) {
   // through a link, so that the link stays and its target is replaced
   fs::path destino = fs::is_symlink(archivo, ec) ? fs::canonical(archivo, ec) : archivo;
   if (ec || destino.empty()) destino = archivo;
+  // a rename would replace a file that its owner has closed to writing
+  if (fs::exists(anterior) && (anterior.permissions() & deEscritura) == fs::perms::none)
+    fallarEscritura(archivo, "el archivo es de solo lectura");
   fs::path temporal = destino;
   temporal += ".tmp~";
   const auto limpiar = [&temporal] {

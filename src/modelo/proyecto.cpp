@@ -68,7 +68,10 @@ OpcionesArchivo Proyecto::opciones(std::string titulo) const {
 }
 
 void Proyecto::adoptar(const std::string& ruta) {
-  estado_.rutaArchivo = propio_ = tituloDeArchivo(ruta);
+  std::error_code ec;
+  const fs::path completa = fs::absolute(comoRuta(ruta), ec);
+  propio_ = ec ? ruta : comoTexto(completa);
+  estado_.rutaArchivo = tituloDeArchivo(ruta);
   ventana_.Caption = std::string(formato_.titulo) + " - " + estado_.rutaArchivo;
   estado_.esNuevo = false;
 }
@@ -106,12 +109,12 @@ void Proyecto::escribir(const std::string& ruta) {
 void Proyecto::Guardar_Archivo() {
   // the record keeps one file name for the three structures: a file that another one opened or saved is never
   // overwritten
-  if (estado_.esNuevo || estado_.rutaArchivo.empty() || estado_.rutaArchivo != propio_) {
+  if (estado_.esNuevo || estado_.rutaArchivo.empty() || estado_.rutaArchivo != tituloDeArchivo(propio_)) {
     Guardarcomo_Archivo();
     return;
   }
   try {
-    escribir(estado_.rutaArchivo);
+    escribir(propio_);
   } catch (const FalloArchivo& fallo) {
     dialogos_.fallo(fallo.what());
   }

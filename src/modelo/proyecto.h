@@ -24,6 +24,8 @@ class Proyecto {
   /// Reads the file into the fields and the record, then runs `trasLeer`. A file that ends early leaves what was read
   /// in the fields, says so, and nothing follows.
   void abrir(const std::string& ruta, const std::function<void()>& trasLeer);
+  /// Writes the file that this structure last opened or saved, in its own folder, wherever a file dialog has been
+  /// since. A new project, and one whose name in the record is another structure's by now, asks for a name.
   void Guardar_Archivo();
   void Guardarcomo_Archivo();
 
@@ -40,7 +42,7 @@ class Proyecto {
   Ventana& ventana_;
   Ventana& parametros_;
   Dialogos& dialogos_;
-  std::string propio_;  ///< name of the file that this structure last opened or saved
+  std::string propio_;  ///< full path of the file that this structure last opened or saved
 };
 
 /// The name of a file without its folder, and whether a file of that path exists.

@@ -240,6 +240,38 @@ TEST(ChuteProject, NeverWritesOverTheFileOfAnotherStructure) {
   }
 }
 
+TEST(ChuteProject, GoesBackWhereItCameFromWhateverTheDialogsSawSince) {
+  CarpetaPrueba carpeta;
+  for (const char* sub : {"x", "y"}) fs::create_directory(carpeta.en(sub));
+  carpeta.escribir("x/p.cvr", proyecto("\r\n"));
+  carpeta.escribir("y/p.cvr", "a neighbour's");
+  MesaRapida m;
+  m.dialogos.abre(carpeta.en("x/p.cvr"));
+  m.f.mnabrir.Click();
+  ASSERT_TRUE(m.f.calculado());
+  // the dialog has left the program in the other folder, where a file of that name is not to be touched
+  m.dialogos.guarda(carpeta.en("y/p.cvr")).responde(false, "El archivo p.cvr ya existe. ¿Desea reemplazarlo?");
+  m.f.mnguardarcomo.Click();
+  m.f.Text5.Text = "2.25";
+  m.f.mnguardar.Click();
+  EXPECT_EQ(carpeta.leer("y/p.cvr"), "a neighbour's");
+  EXPECT_TRUE(carpeta.leer("x/p.cvr").starts_with("2.25\r\n"));
+  EXPECT_EQ(m.estado.rutaArchivo, "p.cvr");
+}
+
+TEST(ChuteProject, AFileClosedToWritingIsNotReplaced) {
+  CarpetaPrueba carpeta;
+  carpeta.escribir("firmado.cvr", "as approved");
+  fs::permissions("firmado.cvr", fs::perms::owner_read | fs::perms::group_read);
+  MesaRapida m;
+  m.dialogos.guarda(carpeta.en("firmado.cvr"))
+      .responde(true, "El archivo firmado.cvr ya existe. ¿Desea reemplazarlo?")
+      .esperaFallo("No se puede guardar el archivo firmado.cvr: el archivo es de solo lectura");
+  m.f.mnguardar.Click();
+  EXPECT_EQ(carpeta.leer("firmado.cvr"), "as approved");
+  EXPECT_TRUE(m.estado.esNuevo);
+}
+
 TEST(ChuteProject, GarbageTextsComeBack) {
   CarpetaPrueba carpeta;
   std::mt19937 azar(7);
