@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -25,8 +26,19 @@ void decir(QMessageBox::Icon icono, const std::string& texto) {
   caja.exec();
 }
 
+/// The kinds of the files in the dialog's list, which Qt tells in English.
+class Clases : public QFileIconProvider {
+ public:
+  QString type(const QFileInfo& archivo) const override {
+    return archivo.isDir() ? QStringLiteral("Carpeta") : QStringLiteral("Archivo");
+  }
+};
+
 std::optional<std::string> pedirArchivo(QFileDialog& dialogo, const OpcionesArchivo& opciones) {
+  Clases clases;
+  dialogo.setIconProvider(&clases);
   dialogo.setWindowTitle(aQt(opciones.titulo));
+  dialogo.resize(dialogo.size().expandedTo(QSize(760, 440)));  // no column of the list is cut
   dialogo.setOption(QFileDialog::HideNameFilterDetails);
   dialogo.setNameFilter(filtroQt(opciones.filtro));
   dialogo.setDefaultSuffix(aQt(opciones.extension));

@@ -114,7 +114,7 @@ void SistemaQt::colocarPrincipal(QMainWindow& vista) {
   const QRect pantalla = vista.screen()->availableGeometry();
   const QSize tamano = (pantalla.size() - marcoEscritorio).boundedTo(tamanoMayor);
   vista.resize(tamano);
-  vista.move(centrado(pantalla, tamano));
+  vista.move(centrado(pantalla, tamano + marcoEscritorio));
 }
 
 /// A child has the size of its design, or what the area offers as long as nothing of it is lost, and stands in the

@@ -39,7 +39,8 @@ Qt::Alignment alineacionQt(Alineacion a) {
 VistaRejilla::VistaRejilla(Grid& control, QTableWidget& widget, Atender atender)
     : QObject(&widget), control_(control), widget_(widget), atender_(std::move(atender)) {
   widget.setEditTriggers(QAbstractItemView::NoEditTriggers);
-  widget.setSelectionMode(QAbstractItemView::ContiguousSelection);
+  // where a click picks a row, its colour is the mark: a selection would lie over it
+  widget.setSelectionMode(control.Click ? QAbstractItemView::NoSelection : QAbstractItemView::ContiguousSelection);
   widget.setTabKeyNavigation(false);
   widget.setWordWrap(false);
   widget.setCornerButtonEnabled(false);
@@ -212,10 +213,10 @@ bool VistaRejilla::eventFilter(QObject*, QEvent* evento) {
 void VistaRejilla::abrirMenu(const QPoint& donde) {
   QMenu menu(&widget_);
   const QAction* copiar = menu.addAction(QStringLiteral("Copiar"));
-  const QAction* todo = menu.addAction(QStringLiteral("Seleccionar todo"));
+  if (widget_.selectionMode() != QAbstractItemView::NoSelection) menu.addAction(QStringLiteral("Seleccionar todo"));
   const QAction* elegida = menu.exec(widget_.viewport()->mapToGlobal(donde));
-  if (elegida == copiar) copiarAlPortapapeles();
-  if (elegida == todo) widget_.selectAll();
+  if (elegida == nullptr) return;
+  elegida == copiar ? copiarAlPortapapeles() : widget_.selectAll();
 }
 
 }  // namespace calvento

@@ -16,6 +16,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -53,6 +54,12 @@ class EnElEscritorio : public testing::Test {
   DialogosGuion dialogos;
   Programa programa{dialogos};
 };
+
+TEST_F(EnElEscritorio, LaVentanaPrincipalCabeEnLaPantallaConSuMarco) {
+  const QWidget* v = vista("frmMain");
+  const QSize conBordesYTitulo = v->size() + QSize(10, 38);
+  EXPECT_TRUE(v->screen()->availableGeometry().contains(QRect(v->pos(), conBordesYTitulo)));
+}
 
 TEST_F(EnElEscritorio, ArrancaConElAcercaDeYLoCierra) {
   ASSERT_NE(vista("frmAbout"), nullptr);

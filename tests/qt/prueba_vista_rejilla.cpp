@@ -66,6 +66,23 @@ TEST_F(TablaEnPantalla, LaCabeceraEsLaFilaCero) {
   EXPECT_EQ(filas, (std::vector<int>{2, 0, 3}));
 }
 
+TEST(TablaQueSePulsa, LaFilaElegidaNoQuedaBajoUnaSeleccion) {
+  ConTabla v;
+  v.Grid1.Click = [] {};
+  QTableWidget widget;
+  VistaRejilla vista(v.Grid1, widget, [](const std::function<void()>& accion) { accion(); });
+  vista.refrescar();
+  widget.resize(700, 300);
+  widget.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
+  QTest::mouseClick(widget.viewport(), Qt::LeftButton, {}, widget.visualItemRect(widget.item(1, 1)).center());
+  QTest::mouseClick(widget.horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(20, 8));
+  EXPECT_TRUE(widget.selectedItems().isEmpty());
+  QTest::keyClick(&widget, Qt::Key_Down);
+  EXPECT_TRUE(widget.selectedItems().isEmpty());
+  EXPECT_EQ(vista.copia()->text().count('\n'), 2) << "the whole table is copied";
+}
+
 TEST_F(TablaEnPantalla, LosTitulosIgualesSeUnenYSiguenSiendoLaFilaCero) {
   Rejilla& t = v.Grid1.tabla;
   t.unirTitulos = true;
