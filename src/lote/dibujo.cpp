@@ -1,7 +1,5 @@
 #include "lote/dibujo.h"
 
-#include <algorithm>
-#include <filesystem>
 #include <stdexcept>
 
 #include "cad/marco_exportar.h"
@@ -9,13 +7,6 @@
 #include "qt/exportar_dibujo.h"
 
 namespace calvento::lote {
-
-std::string archivoDeSalida(const std::string& patron, const std::string& proyecto) {
-  std::string archivo = patron;
-  const std::size_t lugar = archivo.find("{}");
-  if (lugar != std::string::npos) archivo.replace(lugar, 2, std::filesystem::path(proyecto).stem().string());
-  return archivo;
-}
 
 void exportarDibujoDe(Sesion& sesion, const Opciones& opciones) {
   auto* ventana = sesion.aplicacion().cargar<MarcoDibujo>(sesion.estructura()->ventanaDibujo);

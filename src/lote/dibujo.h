@@ -6,9 +6,6 @@
 
 namespace calvento::lote {
 
-/// The file of one project's results: "{}" in the pattern is the project's name without folder and extension.
-std::string archivoDeSalida(const std::string& patron, const std::string& proyecto);
-
 /// Writes the structure's drawing, as its window shows it in that view. Throws OpcionErronea for a view that the
 /// structure does not have, std::runtime_error where the drawing cannot be made or written.
 void exportarDibujoDe(Sesion& sesion, const Opciones& opciones);

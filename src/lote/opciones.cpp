@@ -2,6 +2,8 @@
 
 #include <CLI/CLI.hpp>
 #include <charconv>
+#include <filesystem>
+#include <map>
 
 #include "lote/estructuras.h"
 
@@ -60,12 +62,27 @@ std::string enEspanol(const CLI::ParseError& error, const CLI::App& programa) {
 }
 
 /// One file cannot hold the results of several projects.
-void comprobarArchivoDeSalida(const Opciones& o, const char* opcion, const std::string& archivo) {
-  if (o.archivos.size() > 1 && !archivo.empty() && archivo.find("{}") == std::string::npos)
+void comprobarArchivoDeSalida(const Opciones& o, const char* opcion, const std::string& patron) {
+  if (patron.empty()) return;
+  if (o.archivos.size() > 1 && patron.find("{}") == std::string::npos)
     throw OpcionErronea(std::string(opcion) + ": con más de un proyecto, el nombre debe contener {}");
+  std::map<std::string, std::string> quien;
+  for (const std::string& proyecto : o.archivos) {
+    const auto [otro, nuevo] = quien.emplace(archivoDeSalida(patron, proyecto), proyecto);
+    if (!nuevo && otro->second != proyecto)
+      throw OpcionErronea(std::string(opcion) + ": " + otro->second + " y " + proyecto + " darían el mismo archivo, " +
+                          otro->first);
+  }
 }
 
 }  // namespace
+
+std::string archivoDeSalida(const std::string& patron, const std::string& proyecto) {
+  std::string archivo = patron;
+  const std::size_t lugar = archivo.find("{}");
+  if (lugar != std::string::npos) archivo.replace(lugar, 2, std::filesystem::path(proyecto).stem().string());
+  return archivo;
+}
 
 std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* argv) {
   Opciones o;
@@ -107,7 +124,10 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
                   "extensión. En el nombre, {} es el nombre del proyecto: hace falta\n"
                   "con más de un proyecto")
       ->type_name("ARCHIVO");
-  programa.add_option("--vista", o.vista, "Vista del dibujo; vistaTodo, mientras no se diga otra cosa")
+  programa
+      .add_option("--vista", o.vista,
+                  "Vista del dibujo; vistaTodo, mientras no se diga otra cosa. Con un\n"
+                  "nombre que no existe se dicen las que hay")
       ->type_name("NOMBRE");
   programa
       .add_option("--dxf", o.dxf,

@@ -12,9 +12,9 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 
+#include "modelo/archivo_proyecto.h"
 #include "qt/cadena.h"
 #include "qt/pintor.h"
 
@@ -24,6 +24,7 @@ namespace {
 
 constexpr int pixelesPorPulgada = 96;
 constexpr int resolucionPdf = 1200;
+constexpr int finuraPng = 3;  ///< pixels for each of the screen's: the small texts can be read
 
 /// Keeps quiet about a missing directory for run-time files, which batch machines often lack and drawings do not need.
 void callarCarpetas(QtMsgType tipo, const QMessageLogContext& contexto, const QString& texto) {
@@ -55,8 +56,8 @@ void comoPdf(const Lienzo& lienzo, QIODevice& salida) {
 }
 
 bool comoPng(const Lienzo& lienzo, QIODevice& salida) {
-  QImage imagen(lienzo.anchoPixeles(), lienzo.altoPixeles(), QImage::Format_RGB32);
-  const int puntosPorMetro = static_cast<int>(pixelesPorPulgada / 0.0254);
+  QImage imagen(lienzo.anchoPixeles() * finuraPng, lienzo.altoPixeles() * finuraPng, QImage::Format_RGB32);
+  const int puntosPorMetro = static_cast<int>(pixelesPorPulgada * finuraPng / 0.0254);
   imagen.setDotsPerMeterX(puntosPorMetro);
   imagen.setDotsPerMeterY(puntosPorMetro);
   {
@@ -100,9 +101,9 @@ void exportarDibujo(const Lienzo& lienzo, const std::string& archivo) {
     listo = comoPng(lienzo, memoria);
   if (!listo || datos.isEmpty()) throw std::runtime_error("No se pudo hacer el dibujo " + archivo);
 
-  QSaveFile salida(nombre);
-  if (!salida.open(QIODevice::WriteOnly) || salida.write(datos) != datos.size() || !salida.commit())
-    throw std::runtime_error("No se puede escribir " + archivo + ": " + deQt(salida.errorString()));
+  // the name goes to the system byte for byte: those that are no UTF-8 must not become one and the same
+  escribirAtomico(std::u8string(archivo.begin(), archivo.end()),
+                  {datos.constData(), static_cast<std::size_t>(datos.size())});
 }
 
 }  // namespace calvento

@@ -38,6 +38,13 @@ TEST_F(Dibujo, SeveralProjectsWantANameEach) {
   EXPECT_EQ(correr({"--dibujo", ruta("{}.svg"), uno, dos}).estado, 0);
   EXPECT_TRUE(fs::exists(ruta("uno.svg")));
   EXPECT_TRUE(fs::exists(ruta("dos.svg")));
+
+  fs::create_directory(ruta("otra"));
+  const std::string tocayo = proyecto("otra/uno.cvr");
+  const Corrida tocayos = correr({"--dibujo", ruta("n-{}.svg"), uno, dos, tocayo});
+  EXPECT_EQ(tocayos.estado, 2);
+  EXPECT_NE(tocayos.errores.find("darían el mismo archivo"), std::string::npos) << tocayos.errores;
+  EXPECT_FALSE(fs::exists(ruta("n-dos.svg"))) << "told before anything is opened";
 }
 
 TEST_F(Dibujo, ACadDrawingReplacesTheFormerOneWithoutAQuestion) {
@@ -55,6 +62,17 @@ TEST_F(Dibujo, ACadDrawingReplacesTheFormerOneWithoutAQuestion) {
   EXPECT_EQ(correr({"--dxf", ruta("x{}.dxf"), canal, proyecto("otro.cvr")}).estado, 0);
   EXPECT_TRUE(fs::exists(ruta("xotro.dxf")));
 }
+
+#ifndef _WIN32
+TEST_F(Dibujo, NamesOfOldCodePagesStayDifferent) {
+  // "año" and "aÑo" in Windows-1252: neither is UTF-8
+  const std::string uno = proyecto("a\xF1o.cvr");
+  const std::string dos = proyecto("a\xD1o.cvr");
+  EXPECT_EQ(correr({"--dibujo", ruta("{}.svg"), uno, dos}).estado, 0);
+  EXPECT_TRUE(fs::exists(ruta("a\xF1o.svg")));
+  EXPECT_TRUE(fs::exists(ruta("a\xD1o.svg")));
+}
+#endif
 
 TEST_F(Dibujo, WhatCannotBeDrawnIsTold) {
   const std::string canal = proyecto("canal.cvr");
