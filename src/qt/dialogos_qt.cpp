@@ -5,8 +5,10 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileIconProvider>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTreeView>
 
 #include "qt/cadena.h"
 
@@ -38,7 +40,9 @@ std::optional<std::string> pedirArchivo(QFileDialog& dialogo, const OpcionesArch
   Clases clases;
   dialogo.setIconProvider(&clases);
   dialogo.setWindowTitle(aQt(opciones.titulo));
-  dialogo.resize(dialogo.size().expandedTo(QSize(760, 440)));  // no column of the list is cut
+  dialogo.resize(dialogo.size().expandedTo(QSize(760, 440)));
+  for (QTreeView* lista : dialogo.findChildren<QTreeView*>())  // no column is cut
+    lista->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   dialogo.setOption(QFileDialog::HideNameFilterDetails);
   dialogo.setNameFilter(filtroQt(opciones.filtro));
   dialogo.setDefaultSuffix(aQt(opciones.extension));

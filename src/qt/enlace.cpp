@@ -49,6 +49,16 @@ bool esInteractivo(const QWidget* w) {
          dynamic_cast<const VistaLienzo*>(w) != nullptr;
 }
 
+/// A letter pressed with Alt, which asks for a menu: Qt would type it over the number that the field has selected.
+bool pideMenu(const QObject* objeto, const QKeyEvent& tecla) {
+#ifdef Q_OS_MACOS
+  return false;  // there the key next to it types characters
+#else
+  const auto conQue = tecla.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+  return conQue == Qt::AltModifier && !tecla.text().isEmpty() && qobject_cast<const QLineEdit*>(objeto) != nullptr;
+#endif
+}
+
 /// Widgets that bring working parts of their own, which are no controls of the window.
 bool tienePartesPropias(const QWidget* w) {
   return qobject_cast<const QToolBar*>(w) || qobject_cast<const QTabBar*>(w) ||
@@ -160,6 +170,10 @@ bool Enlace::eventFilter(QObject* objeto, QEvent* evento) {
 /// The return key in a field, and where nobody wants it, of the default button.
 bool Enlace::alPulsarTecla(QObject* objeto, QEvent* evento) {
   auto* tecla = static_cast<QKeyEvent*>(evento);
+  if (pideMenu(objeto, *tecla)) {
+    evento->ignore();
+    return true;
+  }
   if (tecla->key() != Qt::Key_Return && tecla->key() != Qt::Key_Enter) return false;
   if (auto* campo = dynamic_cast<TextBox*>(controlDe_.value(objeto)); campo != nullptr && campo->KeyReturn) {
     atender(campo->KeyReturn);

@@ -221,6 +221,18 @@ TEST_F(EnlaceBanco, ElFocoEligeTodo) {
   EXPECT_FALSE(texto1->hasSelectedText());
 }
 
+TEST_F(EnlaceBanco, UnaLetraConAltNoBorraElNumeroElegido) {
+  enlazar();
+  texto1->setFocus();
+  texto1->selectAll();
+  QTest::keyClick(texto1, Qt::Key_A, Qt::AltModifier);
+  EXPECT_EQ(deQt(texto1->text()), "12,5");
+  // what the key beside the space bar types on a Spanish keyboard stays
+  QKeyEvent arroba(QEvent::KeyPress, Qt::Key_At, Qt::GroupSwitchModifier, "@");
+  QCoreApplication::sendEvent(texto1, &arroba);
+  EXPECT_EQ(deQt(texto1->text()), "@");
+}
+
 TEST_F(EnlaceBanco, LoQueUnManejadorLanzaSeDiceUnaVezYElProgramaSigue) {
   enlazar();
   v.Command1.Click = [] { throw std::runtime_error("roto"); };
