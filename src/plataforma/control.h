@@ -31,7 +31,7 @@ class Control : public Notificable {
 
   Propiedad<bool> Visible{*this, true};
   Propiedad<bool> Enabled{*this, true};
-  /// Empty optional colours are written as the defaults of the desktop.
+  /// As long as they are these two, the desktop's own colours stand.
   Propiedad<Color> BackColor{*this, color::ventana};
   Propiedad<Color> ForeColor{*this, color::textoBoton};
   /// Empty: the tooltip of the window's design stands.

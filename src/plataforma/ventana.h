@@ -33,7 +33,7 @@ class Ventana : public Notificable {
 
   /// A window that keeps its texts when it is closed: closing only hides it.
   virtual bool seOculta() const { return false; }
-  /// The button that the return key presses and the one that the escape key presses; nullptr where there is none.
+  /// The button that the return key presses; nullptr where there is none.
   virtual CommandButton* botonPredeterminado() { return nullptr; }
 
   /// Set by the one that shows the window; called when its caption changes.
