@@ -52,7 +52,7 @@ DesignState rapida() {
 
 /// The drawing window on a chute, and an image to paint on.
 struct Escena {
-  Escena() : ventana((asegurarAplicacionGrafica(), estado), navegador) {}
+  Escena() : ventana((asegurarAplicacionGrafica(), estado), parametros, navegador) {}
   const Lienzo& lienzo() const { return ventana.GRAF.lienzo; }
   void pintarTodo() {
     QPainter p(&imagen);
@@ -61,6 +61,7 @@ struct Escena {
 
   DesignState estado = rapida();
   SinVentanas navegador;
+  Form2 parametros{navegador};
   Form3 ventana;
   QImage imagen{865, 433, QImage::Format_RGB32};
 };
@@ -166,7 +167,8 @@ void PinturaDirecta(benchmark::State& s) {
 void AbrirVentana(benchmark::State& s) {
   DesignState estado = rapida();
   SinVentanas navegador;
-  for (auto _ : s) benchmark::DoNotOptimize(Form3(estado, navegador));
+  const Form2 parametros(navegador);
+  for (auto _ : s) benchmark::DoNotOptimize(Form3(estado, parametros, navegador));
 }
 
 BENCHMARK(Redibujo)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);

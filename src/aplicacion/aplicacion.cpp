@@ -9,7 +9,9 @@
 #include "caida_inclinada/form1.h"
 #include "caida_vertical/form16.h"
 #include "comun/fallo.h"
+#include "dibujo/form17.h"
 #include "dibujo/form3.h"
+#include "dibujo/form4.h"
 #include "dibujo/ventana_secciones.h"
 #include "hidraulica/form14.h"
 #include "hidraulica/form15.h"
@@ -33,13 +35,15 @@ const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
       {"frmMain", [](Aplicacion& a) { return std::make_unique<frmMain>(a, a.dialogos_); }},
       {"frmAbout", [](Aplicacion& a) { return std::make_unique<frmAbout>(a); }},
       {"Form2", [](Aplicacion& a) { return std::make_unique<Form2>(a); }},
-      {"Form3", [](Aplicacion& a) { return std::make_unique<Form3>(a.estado, a); }},
+      {"Form3", [](Aplicacion& a) { return std::make_unique<Form3>(a.estado, a.form2(), a); }},
       {"Form14", [](Aplicacion& a) { return std::make_unique<Form14>(a.estado, a.dialogos_, a); }},
       {"Form15", [](Aplicacion& a) { return std::make_unique<Form15>(a.estado, a.dialogos_, a); }},
       {"Form1", [](Aplicacion& a) { return std::make_unique<Form1>(a.estado, a.form2(), a.dialogos_, a); }},
       {"Form16", [](Aplicacion& a) { return std::make_unique<Form16>(a.estado, a.form25(), a.dialogos_, a); }},
       {"Form25", [](Aplicacion& a) { return std::make_unique<Form25>(a.estado, a); }},
       {"Form10", [](Aplicacion& a) { return std::make_unique<Form10>(a.estado, a.form2(), a.dialogos_, a); }},
+      {"Form4", [](Aplicacion& a) { return std::make_unique<Form4>(a.estado, a.form2(), a); }},
+      {"Form17", [](Aplicacion& a) { return std::make_unique<Form17>(a.estado, a.form25(), a); }},
       {"Form22", [](Aplicacion& a) { return std::make_unique<Form22>(a.estado, a.form2(), a); }},
       {"Form5", [](Aplicacion& a) { return std::make_unique<Form5>(a.estado, a.form2(), a); }},
       {"Form21", [](Aplicacion& a) { return std::make_unique<Form21>(a.estado, a.form2(), a); }},

@@ -1,17 +1,17 @@
 #include "dibujo/form3.h"
 
-#include <initializer_list>
-
 #include "comun/fallo.h"
+#include "dibujo/capas.h"
 
 namespace calvento {
 
 // The print button carries the key "imprime", which no command has: it does nothing in this window, and that is meant.
-Form3::Form3(DesignState& estado, Navegador& navegador)
+Form3::Form3(DesignState& estado, const Form2& parametros, Navegador& navegador)
     : MarcoDibujo("Form3",
                   {"todo", "max", "min", "tanque", "planta", "scontrol", "seccion", "Trayectoria", "Reporte", "imprime",
                    "Copiar", "Exportar"},
-                  estado, navegador) {
+                  estado, navegador),
+      parametros_(parametros) {
   pasandoFallos([this] { Form_Load(); });
 }
 
@@ -57,31 +57,25 @@ std::vector<MarcoDibujo::VistaFija> Form3::vistasFijas() const {
 
 MarcoDibujo::Estructura Form3::estructura() const {
   using Figura = FiguraRapida;
-  using Metodo = void (Figura::*)(Lienzo&) const;
-  struct Capa {
-    std::string_view nombre;
-    Metodo metodo;
-  };
-  constexpr Capa POLIGONO{"POLIGONO", &Figura::POLIGONO}, PLANTA{"PLANTA", &Figura::PLANTA},
-      RAPIDA{"RAPIDA", &Figura::RAPIDA}, CANAL{"CANAL", &Figura::CANAL}, CANALB{"CANALB", &Figura::CANALB},
-      COTAS{"COTAS", &Figura::COTAS}, EJESDIMENSION{"EJESDIMENSION", &Figura::EJESDIMENSION},
+  using C = Capa<Figura>;
+  const C POLIGONO{"POLIGONO", &Figura::POLIGONO}, PLANTA{"PLANTA", &Figura::PLANTA}, RAPIDA{"RAPIDA", &Figura::RAPIDA},
+      CANAL{"CANAL", &Figura::CANAL}, CANALB{"CANALB", &Figura::CANALB}, COTAS{"COTAS", &Figura::COTAS},
+      EJESDIMENSION{"EJESDIMENSION", &Figura::EJESDIMENSION},
       EJESDIMENSIONPLANTA{"EJESDIMENSIONPLANTA", &Figura::EJESDIMENSIONPLANTA},
       textrotate{"textrotate", &Figura::textrotate}, DIMENSIONES{"DIMENSIONES", &Figura::DIMENSIONES},
       DIBUJACANAL{"DIBUJACANAL", &Figura::DIBUJACANAL};
-  const auto rutinas = [this](std::initializer_list<Capa> capas) {
-    std::vector<Rutina> r;
-    for (const Capa& c : capas)
-      r.push_back({c.nombre, [this, m = c.metodo](Lienzo& lienzo) {
-                     (FiguraRapida(estado_, Real(planta_.eje).valor(), Real(planta_.anchoMaximo).valor()).*m)(lienzo);
-                   }});
-    return r;
+  const C DIBUBABLOCKS{"DIBUBABLOCKS", [this](const Figura& f, Lienzo& lienzo) {
+                         f.DIBUBABLOCKS(lienzo, minimoBloques(parametros_.Check1, parametros_.Text11));
+                       }};
+  const std::function<Figura()> figura = [this] {
+    return Figura(estado_, Real(planta_.eje).valor(), Real(planta_.anchoMaximo).valor());
   };
   Estructura s;
   s.vistas = vistasFijas();
-  s.ordenPrincipal = rutinas({POLIGONO, PLANTA, RAPIDA, CANAL, CANALB, COTAS, EJESDIMENSION, EJESDIMENSIONPLANTA,
-                              textrotate, DIMENSIONES, DIBUJACANAL});
-  s.ordenVistas = rutinas({POLIGONO, PLANTA, RAPIDA, CANAL, CANALB, COTAS, DIMENSIONES, textrotate, EJESDIMENSION,
-                           EJESDIMENSIONPLANTA, DIBUJACANAL});
+  s.ordenPrincipal = rutinas(figura, {POLIGONO, PLANTA, DIBUBABLOCKS, RAPIDA, CANAL, CANALB, COTAS, EJESDIMENSION,
+                                      EJESDIMENSIONPLANTA, textrotate, DIMENSIONES, DIBUJACANAL});
+  s.ordenVistas = rutinas(figura, {POLIGONO, PLANTA, DIBUBABLOCKS, RAPIDA, CANAL, CANALB, COTAS, DIMENSIONES,
+                                   textrotate, EJESDIMENSION, EJESDIMENSIONPLANTA, DIBUJACANAL});
   s.ventanas = {{"seccion", "Form19"}, {"Trayectoria", "Form8"}, {"Reporte", "Form11"}, {"Exportar", "Form12"}};
   return s;
 }

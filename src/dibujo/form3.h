@@ -3,13 +3,14 @@
 #include "dibujo/figura_rapida.h"
 #include "dibujo/marco_dibujo.h"
 #include "dibujo/planta.h"
+#include "poza/form2.h"
 
 namespace calvento {
 
 /// The drawing of the chute.
 class Form3 : public MarcoDibujo {
  public:
-  Form3(DesignState& estado, Navegador& navegador);
+  Form3(DesignState& estado, const Form2& parametros, Navegador& navegador);
 
  private:
   void Form_Load();
@@ -18,6 +19,7 @@ class Form3 : public MarcoDibujo {
   std::vector<VistaFija> vistasFijas() const;
   Estructura estructura() const;
 
+  const Form2& parametros_;
   Planta planta_;
 };
 

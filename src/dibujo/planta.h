@@ -10,7 +10,9 @@ struct Planta {
   Single anchoMaximo;
   Single eje;
 };
-/// Fails as the arithmetic does.
+/// All fail as the arithmetic does.
 Planta plantaRapida(const DesignState& estado);
+Planta plantaInclinada(const DesignState& estado);
+Planta plantaVertical(const DesignState& estado);
 
 }  // namespace calvento

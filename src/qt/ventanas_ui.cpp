@@ -12,6 +12,7 @@
 #include "ui_Form14.h"
 #include "ui_Form15.h"
 #include "ui_Form16.h"
+#include "ui_Form17.h"
 #include "ui_Form19.h"
 #include "ui_Form2.h"
 #include "ui_Form20.h"
@@ -22,6 +23,7 @@
 #include "ui_Form25.h"
 #include "ui_Form26.h"
 #include "ui_Form3.h"
+#include "ui_Form4.h"
 #include "ui_Form5.h"
 #include "ui_Form6.h"
 #include "ui_Form7.h"
@@ -50,6 +52,8 @@ constexpr std::array ventanas_ui = {
     VentanaUi{"Form15", Puesto::hija, construir<Ui::Form15>},
     VentanaUi{"Form16", Puesto::hija, construir<Ui::Form16>},
     VentanaUi{"Form25", Puesto::hija, construir<Ui::Form25>},
+    VentanaUi{"Form4", Puesto::hija, construir<Ui::Form4>},
+    VentanaUi{"Form17", Puesto::hija, construir<Ui::Form17>},
     VentanaUi{"Form22", Puesto::hija, construir<Ui::Form22>},
     VentanaUi{"Form5", Puesto::hija, construir<Ui::Form5>},
     VentanaUi{"Form21", Puesto::hija, construir<Ui::Form21>},

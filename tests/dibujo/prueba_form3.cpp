@@ -13,6 +13,7 @@ namespace {
 struct DibujoRapida : testing::Test {
   DesignState estado = rapidaDeMano(3);
   NavegadorMudo navegador;
+  Form2 parametros{navegador};
 };
 
 /// Place of the first upright or slanted text in the order of drawing.
@@ -38,7 +39,7 @@ TEST_F(DibujoRapida, VistasDeUnaRapidaDeNumerosRedondos) {
                {"tanque", 18.5, fin + 1.3, 102.75, 105.3 + 1.834862},
                {"planta", 18.5, fin + 1.3, eje - 3, eje + 3},
                {"scontrol", -7, 3, 108, eje + 4}};
-  Form3 f(estado, navegador);
+  Form3 f(estado, parametros, navegador);
   EXPECT_FLOAT_EQ(estado.progresivaFinPoza.valor(), 1034.875F) << "without the outlet transition";
   EXPECT_NEAR(f.GRAF.lienzo.ScaleLeft(), 18.5, 1e-4) << "opens on the basin";
   constexpr double proporcion = 433.0 / 865;
@@ -55,7 +56,7 @@ TEST_F(DibujoRapida, VistasDeUnaRapidaDeNumerosRedondos) {
 }
 
 TEST_F(DibujoRapida, RotulosGiradosAntesODespuesDeLosDerechos) {
-  Form3 f(estado, navegador);
+  Form3 f(estado, parametros, navegador);
   for (const char* clave : {"tanque", "planta", "scontrol", "max", "min"}) {
     f.Toolbar1.ButtonClick(clave);
     EXPECT_LT(primerTexto(f.GRAF.lienzo, false), primerTexto(f.GRAF.lienzo, true)) << clave;
@@ -65,7 +66,7 @@ TEST_F(DibujoRapida, RotulosGiradosAntesODespuesDeLosDerechos) {
 }
 
 TEST_F(DibujoRapida, SusBotonesAbrenLasOtrasVentanasYElDeImprimirNada) {
-  Form3 f(estado, navegador);
+  Form3 f(estado, parametros, navegador);
   const EscalaLienzo antes = f.GRAF.lienzo.escala();
   for (const char* clave : {"seccion", "Trayectoria", "Reporte", "imprime", "Copiar", "Exportar"}) {
     const auto& claves = f.Toolbar1.claves();
@@ -79,7 +80,7 @@ TEST_F(DibujoRapida, SusBotonesAbrenLasOtrasVentanasYElDeImprimirNada) {
 
 TEST_F(DibujoRapida, UnRegistroVacioSeAbreSinDibujo) {
   DesignState vacio;
-  Form3 f(vacio, navegador);
+  Form3 f(vacio, parametros, navegador);
   for (const std::string& clave : f.Toolbar1.claves()) EXPECT_NO_THROW(f.Toolbar1.ButtonClick(clave)) << clave;
 }
 

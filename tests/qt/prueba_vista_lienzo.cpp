@@ -131,7 +131,8 @@ TEST(VistaLienzo, SobreviveALaVentanaQueMuestra) {
 TEST(VistaLienzo, UnaCajaArrastradaAmpliaElDibujoDeLaRapida) {
   DesignState estado = rapidaDeMano();
   NavegadorMudo navegador;
-  Form3 dibujo(estado, navegador);
+  const Form2 parametros(navegador);
+  Form3 dibujo(estado, parametros, navegador);
   VistaLienzo vista;
   vista.resize(1000, 600);
   vista.mostrar(dibujo.GRAF);
