@@ -12,8 +12,9 @@ void rotulosCresta(Lienzo& lienzo, const GeometriaInclinada& g) {
   const Valores& v = g.valores();
   rotulo(lienzo, g.xTransE() - ancho("Canal Aguas Arriba", 1150), v.cotaPoza - 0.3, "Canal Aguas Arriba");
   if (v.frArriba < 1) {
-    const std::string t = "Yc=" + redondeado(v.estado.yFin) + "m";
-    rotuloCentrado(lienzo, 0, v.yFin / 2 + v.cotaFin + alto(2500), t);
+    // a fast canal has no control section
+    rotuloCentrado(lienzo, 0, v.cotaFin - 0.15, "Sección de control");
+    rotuloCentrado(lienzo, 0, v.yFin / 2 + v.cotaFin + alto(2500), "Yc=" + redondeado(v.estado.yFin) + "m");
   }
   if (v.sobreelevacion != 0) {
     const double x = g.puntoUmbral().x;
@@ -22,10 +23,9 @@ void rotulosCresta(Lienzo& lienzo, const GeometriaInclinada& g) {
   }
 }
 
-/// The control section and both ends of the curve.
-void rotulosPuntos(Lienzo& lienzo, const GeometriaInclinada& g) {
+/// Both ends of the curve.
+void rotulosCurva(Lienzo& lienzo, const GeometriaInclinada& g) {
   const Valores& v = g.valores();
-  rotuloCentrado(lienzo, 0, v.cotaFin - 0.15, "Sección de control");
   rotulo(lienzo, -ancho("P.C.", 1000), v.cotaFin, "P.C.");
   rotulo(lienzo, g.estaciones().xPT - ancho("P.T.", 1000), v.cotaTrayectoria, "P.T.");
 }
@@ -62,7 +62,7 @@ void FiguraInclinada::DIMENSIONES(Lienzo& lienzo) const {
   const double medioPoza = p.xPoza0 + v.longPoza / 2;
   letraDerecha(lienzo);
   rotulosCresta(lienzo, g);
-  rotulosPuntos(lienzo, g);
+  rotulosCurva(lienzo, g);
   rotulosLongitudesEntrada(lienzo, g);
   rotulosLongitudesPoza(lienzo, v, p, v.cotaPoza);
   rotulosConjugados(lienzo, v, p.xPoza0, medioPoza, "m");

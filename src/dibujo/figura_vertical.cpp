@@ -51,7 +51,7 @@ void notaObstaculos(Lienzo& lienzo, const GeometriaVertical& g, const MinimoBloq
 void notaVentilacion(Lienzo& lienzo, const GeometriaVertical& g, const std::string& pulgadas, double eje) {
   const Valores& v = g.valores();
   if (v.estado.tipoTransVert == 1) {
-    nota(lienzo, -0.7 - ancho("AGUJEROS DE VENTILACION:", 1300), (v.cotaFin + v.cotaPoza) / 2 + renglon,
+    nota(lienzo, -0.9 - ancho("AGUJEROS DE VENTILACION:", 1300), (v.cotaFin + v.cotaPoza) / 2 + renglon,
          {"AGUJEROS DE VENTILACION:", "Diámetro tubería= " + pulgadas + " pulg.",
           "Nro de Tubos= " + texto(v.estado.numTubos)});
     return;
@@ -126,6 +126,9 @@ void FiguraVertical::EJESDIMENSION(Lienzo& lienzo, const MinimoBloques& minimo, 
   cadenaCotas(lienzo, cadenaSeccion(g));
   barraPoza(lienzo, g.valores(), g.estaciones());
   cotasVerticales(lienzo, alturasAcotadas(g));
+  // the label of this depth stands beside its line, which has no gap
+  const CotaAltura abajo = alturasAcotadas(g).front();
+  lienzo.Line({abajo.x, abajo.abajo}, {abajo.x, abajo.arriba});
   flechasAnchos(lienzo, anchosAcotados(g), ejePlanta_);
   // the notes are upright whichever routine ran before
   letraDerecha(lienzo);

@@ -32,7 +32,7 @@ void FiguraVertical::DIMENSIONES(Lienzo& lienzo) const {
   rotuloProfundidad(lienzo, v, p, "h=");
   rotuloCentrado(lienzo, xAlturaCaida, (v.cotaFin + v.cotaPoza) / 2 + alto(2500),
                  "H=" + formato(v.cotaFin - v.cotaPoza, "0.00"), "0.00");
-  rotulosLongitudesSalida(lienzo, v, p, v.cotaPoza);
+  rotulosLongitudesSalida(lienzo, v, p, v.cotaPoza, formato(v.longTransSalida, "0.000"));
   rotuloCanalAbajo(lienzo, v, p);
   rotulosAnchos(lienzo, anchosAcotados(g), ejePlanta_);
   titulos(lienzo, v.longRapida / 2, ejePlanta_ - v.espejoPoza / 2 - 0.3, v.cotaPoza - nivelTitulos);

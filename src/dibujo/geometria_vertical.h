@@ -8,7 +8,7 @@
 namespace calvento {
 
 /// Where the height of the fall is dimensioned: in the ground before the face, m.
-inline constexpr double xAlturaCaida = -0.4;
+inline constexpr double xAlturaCaida = -0.6;
 
 /// The outlines of a vertical drop in world metres: X runs from the face of the drop, Y is the elevation. The window
 /// paints them and the CAD export sends them. Every outline has its number of points whatever the record holds.

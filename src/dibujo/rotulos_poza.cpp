@@ -47,16 +47,16 @@ void rotulosLongitudesPoza(Lienzo& lienzo, const Valores& v, const EstacionesPoz
   const double y = base - nivelLongitudes;
   rotuloCentrado(lienzo, p.lRampaE / 2 + p.xPT, y, redondeado(p.lRampaE), formato(p.lRampaE, "0.000"));
   rotuloCentrado(lienzo, p.xPoza0 + v.longPoza / 2, y, redondeado(v.estado.longPoza), formato(v.longPoza, "0.000"));
-  rotulosLongitudesSalida(lienzo, v, p, base);
+  rotulosLongitudesSalida(lienzo, v, p, base, redondeado(v.estado.longTransSalida));
 }
 
-void rotulosLongitudesSalida(Lienzo& lienzo, const Valores& v, const EstacionesPoza& p, double base) {
+void rotulosLongitudesSalida(Lienzo& lienzo, const Valores& v, const EstacionesPoza& p, double base,
+                             const std::string& transicion) {
   const double y = base - nivelLongitudes;
   if (v.profPoza != 0)
     rotuloCentrado(lienzo, p.xPoza1 + p.lRampaS / 2, y, redondeado(p.lRampaS), formato(p.lRampaS, "0.000"));
   if (v.longTransSalida != 0)
-    rotuloCentrado(lienzo, p.xPoza2 + v.longTransSalida / 2, y, redondeado(v.estado.longTransSalida),
-                   formato(v.longTransSalida, "0.00"));
+    rotuloCentrado(lienzo, p.xPoza2 + v.longTransSalida / 2, y, transicion, formato(v.longTransSalida, "0.00"));
 }
 
 void rotuloCanalAbajo(Lienzo& lienzo, const Valores& v, const EstacionesPoza& p) {

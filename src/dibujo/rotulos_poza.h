@@ -24,8 +24,9 @@ void rotuloTiranteAbajo(Lienzo& lienzo, const Valores& v, const EstacionesPoza& 
 void rotuloProyeccion(Lienzo& lienzo, const Valores& v, const EstacionesPoza& p);
 /// Lengths of both ramps, of the basin and of the outlet transition in the chain under a base.
 void rotulosLongitudesPoza(Lienzo& lienzo, const Valores& v, const EstacionesPoza& p, double base);
-/// Those from the foot of the exit ramp on.
-void rotulosLongitudesSalida(Lienzo& lienzo, const Valores& v, const EstacionesPoza& p, double base);
+/// Those from the foot of the exit ramp on; `transicion` is the length of the outlet transition as it is written.
+void rotulosLongitudesSalida(Lienzo& lienzo, const Valores& v, const EstacionesPoza& p, double base,
+                             const std::string& transicion);
 void rotuloCanalAbajo(Lienzo& lienzo, const Valores& v, const EstacionesPoza& p);
 /// Widths written on the axis of the plan, from their halves.
 void rotulosAnchos(Lienzo& lienzo, std::span<const AnchoEn> anchos, double eje);

@@ -4,24 +4,12 @@
 
 #include "dibujo/estado_rapida.h"
 #include "dibujo/geometria_rapida.h"
+#include "dibujo/puntos.h"
 
 namespace calvento {
 namespace {
 
 // The expected points are worked by hand from the round numbers of rapidaDeMano.
-
-struct Esperado {
-  std::size_t i;
-  double x, y;
-};
-
-void comparar(const std::vector<Punto>& puntos, std::initializer_list<Esperado> tabla, const char* que) {
-  for (const auto& t : tabla) {
-    ASSERT_LT(t.i, puntos.size()) << que;
-    EXPECT_NEAR(puntos[t.i].x, t.x, 2e-6) << que << " point " << t.i;
-    EXPECT_NEAR(puntos[t.i].y, t.y, 2e-6) << que << " point " << t.i;
-  }
-}
 
 TEST(GeometriaRapida, WaterBodyOfOneReach) {
   const DesignState e = rapidaDeMano();
