@@ -3,7 +3,7 @@
 #include <QImage>
 #include <QPainter>
 
-#include "aplicacion/aplicacion.h"
+#include "aplicacion_muda.h"
 #include "dibujo/marco_dibujo.h"
 #include "plataforma/ventana_datos.h"
 #include "qt/exportar_dibujo.h"
@@ -13,24 +13,6 @@
 
 namespace calvento {
 namespace {
-
-struct SinCajas : Dialogos {
-  void aviso(const std::string&) override {}
-  void fallo(const std::string&) override {}
-  bool pregunta(const std::string&) override { return true; }
-  std::optional<std::string> abrirArchivo(const OpcionesArchivo&) override { return std::nullopt; }
-  std::optional<std::string> guardarArchivo(const OpcionesArchivo&) override { return std::nullopt; }
-};
-
-struct SinPantalla : SistemaVentanas {
-  void presentar(Ventana&) override {}
-  void ocultar(Ventana&) override {}
-  void cerrar(Ventana&) override {}
-  void imprimir(Ventana&) override {}
-  void copiar(Ventana&) override {}
-  void terminar() override {}
-  void despues(std::function<void()>) override {}
-};
 
 struct Caso {
   const char* proyecto;
@@ -45,9 +27,8 @@ constexpr Caso casos[] = {{"11-inclinada-rectangular.cvi", "Form1", "Form4"},
 void RedibujoCaida(benchmark::State& s) {
   asegurarAplicacionGrafica();
   const Caso& caso = casos[s.range(0)];
-  SinCajas dialogos;
-  SinPantalla pantalla;
-  Aplicacion aplicacion(dialogos, pantalla);
+  AplicacionMuda muda;
+  Aplicacion& aplicacion = muda.aplicacion;
   aplicacion.cargar<VentanaDatos>(caso.datos)->abrir(std::string(RAIZ_PROYECTO "/ejemplos/") + caso.proyecto);
   auto& ventana = *aplicacion.cargar<MarcoDibujo>(caso.dibujo);
   QImage imagen(865, 433, QImage::Format_RGB32);

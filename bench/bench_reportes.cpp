@@ -1,36 +1,15 @@
 // Opening each report of a chute of three reaches.
 #include <benchmark/benchmark.h>
 
-#include "aplicacion/aplicacion.h"
+#include "aplicacion_muda.h"
 #include "plataforma/ventana_datos.h"
 
 namespace calvento {
 namespace {
 
-class SinCajas : public Dialogos {
- public:
-  void aviso(const std::string&) override {}
-  void fallo(const std::string& texto) override { throw std::runtime_error(texto); }
-  bool pregunta(const std::string&) override { return true; }
-  std::optional<std::string> abrirArchivo(const OpcionesArchivo&) override { return {}; }
-  std::optional<std::string> guardarArchivo(const OpcionesArchivo&) override { return {}; }
-};
-
-class SinPantalla : public SistemaVentanas {
- public:
-  void presentar(Ventana&) override {}
-  void ocultar(Ventana&) override {}
-  void cerrar(Ventana&) override {}
-  void imprimir(Ventana&) override {}
-  void copiar(Ventana&) override {}
-  void terminar() override {}
-  void despues(std::function<void()> accion) override { accion(); }
-};
-
 void abrirReporte(benchmark::State& estado, const char* ventana) {
-  SinCajas dialogos;
-  SinPantalla pantalla;
-  Aplicacion aplicacion(dialogos, pantalla);
+  AplicacionMuda muda;
+  Aplicacion& aplicacion = muda.aplicacion;
   aplicacion.cargar<VentanaDatos>("Form10")->abrir(RAIZ_PROYECTO "/ejemplos/04-tres-tramos.cvr");
   for (auto _ : estado) {
     Ventana* reporte = aplicacion.cargar(ventana);
