@@ -1,18 +1,11 @@
 #pragma once
 
-#include <gtest/gtest.h>
-#include <string>
-#include <string_view>
-#include <utility>
 #include <vector>
 
-#include "apoyo/dialogos_guion.h"
-#include "apoyo/navegador_mudo.h"
+#include "apoyo/mesa.h"
 #include "rapida/form10.h"
 
 namespace calvento {
-
-using Datos = std::vector<std::pair<std::string_view, std::string>>;
 
 /// Sensible data of a chute of three reaches with a rectangular basin; its one warning is the width of the basin.
 inline Datos rapidaDeTresTramos() {
@@ -35,24 +28,14 @@ inline Datos rapidaDeUnTramo() {
           {"Text22", "1.5"},   {"Text26", "10"}};
 }
 
-/// The chute window with all that it needs; boxes from a script unless others are given.
+/// The chute window on its table.
 template <class Cajas = DialogosGuion>
-struct Mesa {
-  Cajas dialogos;
-  DesignState estado;
-  NavegadorMudo navegador;
-  Form2 form2{navegador};
-  Form10 f{estado, form2, dialogos, navegador};
+struct Mesa : MesaDe<Form10, Form2, Cajas> {
+  Form2& form2 = this->parametros;
 
-  void poner(const Datos& datos) {
-    for (const auto& [campo, valor] : datos) {
-      TextBox* c = f.template buscar<TextBox>(campo);
-      ASSERT_NE(c, nullptr) << campo;
-      c->Text = valor;
-    }
-  }
   std::vector<Menu*> menusDeResultados() {
-    return {&f.mngrafico, &f.mntabla, &f.mntanque, &f.mnst, &f.mntperfil, &f.mntrayectoria, &f.mnformondas};
+    auto& w = this->f;
+    return {&w.mngrafico, &w.mntabla, &w.mntanque, &w.mnst, &w.mntperfil, &w.mntrayectoria, &w.mnformondas};
   }
   /// How many of the seven result menus are enabled.
   int resultadosAbiertos() {
@@ -60,10 +43,7 @@ struct Mesa {
     for (const Menu* m : menusDeResultados()) n += m->Enabled ? 1 : 0;
     return n;
   }
-  double valor(Single DesignState::*campo) const { return static_cast<double>((estado.*campo).valor()); }
 };
 using MesaRapida = Mesa<>;
-
-inline constexpr const char* avisoSinTanque = "Seleccione el Tipo de Tanque Amortiguador a utilizar";
 
 }  // namespace calvento

@@ -2,6 +2,7 @@
 #include <random>
 
 #include "apoyo/mesa_rapida.h"
+#include "apoyo/seccion_desnuda.h"
 #include "estructura/pasos.h"
 
 namespace calvento {
@@ -9,30 +10,12 @@ namespace {
 
 using D = DesignState;
 
-/// Notes every message and answers every question with Yes.
-class DialogosLibres : public Dialogos {
- public:
-  std::vector<std::string> dichas;
-  void aviso(const std::string& texto) override { dichas.push_back(texto); }
-  void fallo(const std::string& texto) override { dichas.push_back("fallo: " + texto); }
-  bool pregunta(const std::string& texto) override { return aviso(texto), true; }
-  std::optional<std::string> abrirArchivo(const OpcionesArchivo&) override { return {}; }
-  std::optional<std::string> guardarArchivo(const OpcionesArchivo&) override { return {}; }
-};
 using MesaLibre = Mesa<DialogosLibres>;
 
-// the section in bare doubles, apart from the program's own
-double area(double b, double z, double y) { return y * (b + z * y); }
-double alturaVelocidad(double Q, double b, double z, double y) { return std::pow(Q / area(b, z, y), 2) / (2 * 9.81); }
-double friccion(double Q, double b, double z, double n, double y) {
-  const double A = area(b, z, y);
-  const double P = b + 2 * y * std::hypot(1, z);
-  return std::pow(Q * n / A, 2) * std::pow(P / A, 4.0 / 3);
-}
-/// First moment of the section about the surface plus the flux of momentum, m³.
-double impulso(double Q, double b, double z, double y) {
-  return b * y * y / 2 + z * y * y * y / 3 + Q * Q / (9.81 * area(b, z, y));
-}
+using desnuda::alturaVelocidad;
+using desnuda::area;
+using desnuda::friccion;
+using desnuda::impulso;
 
 void alAzar(MesaLibre& m, std::mt19937& azar) {
   const auto entre = [&](double a, double b) { return std::uniform_real_distribution<>(a, b)(azar); };

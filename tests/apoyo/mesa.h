@@ -1,0 +1,88 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "apoyo/dialogos_guion.h"
+#include "apoyo/navegador_mudo.h"
+#include "modelo/design_state.h"
+#include "plataforma/ventana.h"
+
+namespace calvento {
+
+using Datos = std::vector<std::pair<std::string_view, std::string>>;
+
+/// Notes every message and answers every question with Yes.
+class DialogosLibres : public Dialogos {
+ public:
+  std::vector<std::string> dichas;
+  void aviso(const std::string& texto) override { dichas.push_back(texto); }
+  void fallo(const std::string& texto) override { dichas.push_back("fallo: " + texto); }
+  bool pregunta(const std::string& texto) override { return aviso(texto), true; }
+  std::optional<std::string> abrirArchivo(const OpcionesArchivo&) override { return {}; }
+  std::optional<std::string> guardarArchivo(const OpcionesArchivo&) override { return {}; }
+};
+
+/// A data window with all that it needs; boxes from a script unless others are given.
+template <class VentanaDeDatos, class Parametros, class Cajas = DialogosGuion>
+struct MesaDe {
+  Cajas dialogos;
+  DesignState estado;
+  NavegadorMudo navegador;
+  Parametros parametros = nuevosParametros();
+  VentanaDeDatos f{estado, parametros, dialogos, navegador};
+
+  void poner(const Datos& datos) { ponerEn(f, datos); }
+  static void ponerEn(Ventana& ventana, const Datos& datos) {
+    for (const auto& [campo, valor] : datos) {
+      auto* c = ventana.buscar<TextBox>(campo);
+      ASSERT_NE(c, nullptr) << campo;
+      c->Text = valor;
+    }
+  }
+  double valor(Single DesignState::*campo) const { return static_cast<double>((estado.*campo).valor()); }
+  /// The menus of result windows that are enabled, in the order in which the window declares them.
+  std::string menusAbiertos(std::initializer_list<const char*> menus) const {
+    std::string s;
+    for (const char* m : menus)
+      if (f.template buscar<Menu>(m)->Enabled) s.append(s.empty() ? "" : " ").append(m);
+    return s;
+  }
+
+ private:
+  Parametros nuevosParametros() {
+    if constexpr (std::is_constructible_v<Parametros, Navegador&>)
+      return Parametros(navegador);
+    else
+      return Parametros(estado, navegador);
+  }
+};
+
+/// Runs a calculation on a record full of a sentinel and returns which 4-byte fields were written, as words between
+/// blanks in the order of the record.
+template <class Accion>
+std::string camposEscritos(DesignState& estado, Accion&& calcular) {
+  for (const CampoSingle& c : camposSingle()) estado.*c.campo = -77;
+  calcular();
+  std::string s;
+  for (const CampoSingle& c : camposSingle())
+    if ((estado.*c.campo).valor() != -77) s.append(s.empty() ? "" : " ").append(c.nombre);
+  return s;
+}
+
+/// The same words in the order of the record.
+inline std::string enOrden(const std::string& palabras) {
+  std::string s;
+  for (const CampoSingle& c : camposSingle())
+    if ((" " + palabras + " ").find(" " + std::string(c.nombre) + " ") != std::string::npos)
+      s.append(s.empty() ? "" : " ").append(c.nombre);
+  return s;
+}
+
+inline constexpr const char* avisoSinTanque = "Seleccione el Tipo de Tanque Amortiguador a utilizar";
+inline constexpr const char* falloDivision = "División por cero: Ingresar datos correctamente, verificar";
+
+}  // namespace calvento
