@@ -66,7 +66,8 @@ void pozaYTrayectoria(DesignState& e) {
   const Real Ea = energiaEspecifica(e.vAbajo, e.ynAbajo);
   e.profPoza = E2 - Ea;
   e.profPoza = enRejilla(e.profPoza);
-  if (e.profPoza < 0) e.profPoza = 0;
+  // not even a negative zero, which the grid makes of a few millimetres
+  if (!(e.profPoza > 0)) e.profPoza = 0;
   e.cotaPoza = e.cotaAbajo - e.profPoza;
   e.trayA = -(e.sArriba * e.sArriba + 1) * gravedad / (2 * e.vFin * e.vFin);
   e.trayB = -e.sArriba;
