@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "dibujo/form3.h"
+#include "medida.h"
 #include "qt/exportar_dibujo.h"
 #include "qt/pintor.h"
 
@@ -14,15 +15,6 @@
 
 namespace calvento {
 namespace {
-
-struct SinVentanas : Navegador {
-  void mostrar(std::string_view) override {}
-  void ocultar(Ventana&) override {}
-  void descargar(Ventana&) override {}
-  void imprimir(Ventana&) override {}
-  void copiar(Ventana&) override {}
-  void terminar() override {}
-};
 
 /// A chute of three reaches with its 300 rows of profile.
 DesignState rapida() {

@@ -9,16 +9,6 @@
 namespace calvento {
 namespace {
 
-class SinVentanas : public Navegador {
- public:
-  void mostrar(std::string_view) override {}
-  void ocultar(Ventana&) override {}
-  void descargar(Ventana&) override {}
-  void imprimir(Ventana&) override {}
-  void copiar(Ventana&) override {}
-  void terminar() override {}
-};
-
 /// A reach and the depth at its head.
 struct Tramo {
   double Q, b, z, n, S, cotaA, cotaB, y;
@@ -180,11 +170,7 @@ void Command3_desnudo(benchmark::State& e) { medir(e, caudales, rapidaDesnuda); 
 /// The window's whole work: fields read, hints, table of basins and menus written.
 void Command3_ventana(benchmark::State& e) {
   Rapida r;
-  const long antes = reservas;
-  for (auto _ : e) r.f.Command3_Click();
-  e.counters["reservas"] =
-      benchmark::Counter(static_cast<double>(reservas - antes), benchmark::Counter::kAvgIterations);
-  if (!r.f.calculado()) e.SkipWithError("not calculated");
+  medirCommand3(e, r.f);
 }
 
 BENCHMARK(YO_desnudo);

@@ -30,7 +30,7 @@ Datos alAzar(std::mt19937& azar, bool rapido) {
                                {"Text7", rapido || azar() % 3 == 0 ? "0" : "1"},
                                {"Text8", t4(entre(0.013, 0.017))},
                                {"Text9", t4(rapido ? entre(0.03, 0.08) : entre(0.0005, 0.002))},
-                               {"Text16", t4(B * entre(0.6, 1.2))},
+                               {"Text16", t4(B * (azar() % 5 == 0 ? 1 : entre(0.6, 1.2)))},
                                {"Text18", rapido || azar() % 3 == 0 ? "0" : "1.5"},
                                {"Text19", t4(entre(0.013, 0.017))},
                                {"Text20", t4(entre(0.0005, 0.002))},
@@ -72,7 +72,8 @@ void comprobar(MesaLibre& m, bool super) {
   const double fin = v(&D::cotaFin) + v(&D::sobreelevacion) + energia(Q, bFin, zFin, v(&D::yFin));
   const double abajo = v(&D::cotaAbajo) + energia(Q, v(&D::bAbajo), v(&D::zAbajo), v(&D::ynAbajo));
   EXPECT_LT(y1, y2);
-  EXPECT_NEAR(E2 - E1, abajo - fin, 5e-4 * E1);
+  // the search of the outlet watches its level alone: the submergence may still move a little with the last pass
+  EXPECT_NEAR(E2 - E1, abajo - fin, super ? 0.01 : 5e-4 * E1);
   EXPECT_NEAR(impulso(Q, b, z, y1), impulso(Q, b, z, y2), 5e-4 * impulso(Q, b, z, y2));
   if (v(&D::cotaPoza) < v(&D::cotaAbajo)) {
     EXPECT_NEAR(v(&D::cotaPoza) + E1, fin, 5e-4 * E1 + 1e-6 * fin);
@@ -94,7 +95,25 @@ void comprobar(MesaLibre& m, bool super) {
   EXPECT_NEAR(v(&D::hArriba), v(&D::ynArriba) + 0.2, 0.0251);
   EXPECT_NEAR(v(&D::hRapida), (v(&D::yFin) + y1) / 2 + 0.3, 0.0251);
   EXPECT_GE(v(&D::cotaPoza) + v(&D::hPoza), v(&D::cotaAbajo) + v(&D::hAbajo) - 1e-4 - grano);
-  for (Single D::*medida : {&D::hArriba, &D::hAbajo, &D::hRapida, &D::longTransEntrada, &D::longTransSalida})
+  const double muro = std::max(v(&D::y2) + 0.3, v(&D::cotaAbajo) + v(&D::hAbajo) - v(&D::cotaPoza));
+  EXPECT_NEAR(v(&D::hPoza), muro, 0.0251 + grano);
+  // top widths at the walls, and the transitions between them at 12.5 degrees
+  const auto espejo = [&](Single D::*base, Single D::*talud, Single D::*alto) {
+    return v(base) + 2 * v(talud) * v(alto);
+  };
+  EXPECT_NEAR(v(&D::espejoArriba), espejo(&D::bArriba, &D::zArriba, &D::hArriba), 1e-5);
+  EXPECT_NEAR(v(&D::espejoRapida), espejo(&D::bEntradaCaida, &D::zPozaCaida, &D::hArriba), 1e-5);
+  EXPECT_NEAR(v(&D::espejoPoza), espejo(&D::bPozaCaida, &D::zPozaCaida, &D::hPoza), 1e-5);
+  EXPECT_NEAR(v(&D::espejoAbajo), espejo(&D::bAbajo, &D::zAbajo, &D::hAbajo), 1e-5);
+  const auto transicion = [](double T1, double T2) { return std::fabs(T1 - T2) / 2 / std::tan(12.5 * 3.1415 / 180); };
+  EXPECT_NEAR(v(&D::longTransEntrada), transicion(v(&D::espejoArriba), v(&D::espejoRapida)), 0.0251);
+  const double salida = transicion(v(&D::espejoPoza), v(&D::espejoAbajo));
+  EXPECT_NEAR(v(&D::longTransSalida), salida < 0.15 ? 0.5 : salida, 0.0251);
+  const double Aa = desnuda::area(v(&D::bAbajo), v(&D::zAbajo), v(&D::ynAbajo));
+  EXPECT_NEAR(v(&D::frAbajo), Q / Aa / std::sqrt(9.81 * Aa / (v(&D::bAbajo) + 2 * v(&D::zAbajo) * v(&D::ynAbajo))),
+              1e-4);
+  for (Single D::*medida :
+       {&D::profPoza, &D::hArriba, &D::hAbajo, &D::hRapida, &D::longTransEntrada, &D::longTransSalida})
     EXPECT_NEAR(v(medida) / 0.05, std::round(v(medida) / 0.05), 1e-3);
   if (!super) return;
 
@@ -105,7 +124,7 @@ void comprobar(MesaLibre& m, bool super) {
   EXPECT_EQ(v(&D::sAbajo), v(&D::sArriba));
   EXPECT_EQ(m.f.Text4.Text.valor(), texto(Round(m.estado.cotaAbajo, 3)));
   // with the submergence found the water leaves the basin at the canal's level
-  EXPECT_NEAR(v(&D::cotaPoza) + y2, v(&D::cotaAbajo) + v(&D::ynAbajo), 2e-3 * y2 + grano);
+  EXPECT_NEAR(v(&D::cotaPoza) + y2, v(&D::cotaAbajo) + v(&D::ynAbajo), 0.01);
 }
 
 TEST(InclinedDrop, RelationsHoldOverRandomDrops) {

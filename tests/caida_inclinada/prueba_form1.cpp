@@ -149,9 +149,9 @@ TEST(InclinedDropWindow, AtAFroudeNumberOfOneTheCalculationTakesTheControlSectio
   m.poner({{"Text7", "0"}, {"Text23", "1.4"}});
   m.f.Grid1.pulsar(3);
   // roughness and slope that make it exactly one are searched by halving, down to neighbouring 4-byte slopes
-  for (int n = 150; n < 250 && m.valor(&D::frArriba) != 1; ++n) {
+  for (int n = 350; n < 450 && m.valor(&D::frArriba) != 1; ++n) {
     m.f.Text8.Text = "0.0" + std::to_string(n);
-    float lento = 0.001F, rapido = 0.05F;
+    float lento = 0.001F, rapido = 0.2F;
     while (m.valor(&D::frArriba) != 1 && std::nextafter(lento, 1.0F) < rapido) {
       const float S = (lento + rapido) / 2;
       m.f.Text9.Text = texto(Real(Single::deFloat(S)));
@@ -170,7 +170,7 @@ TEST(InclinedDropWindow, AtAFroudeNumberOfOneTheCalculationTakesTheControlSectio
   EXPECT_EQ(m.valor(&D::bEntradaCaida), m.valor(&D::bPozaCaida));
   m.f.mnsuper.Click();
   EXPECT_FALSE(m.f.Frame1.Visible);
-  m.poner({{"Text8", "0.06"}, {"Text9", "0.06"}});
+  ASSERT_GT(m.valor(&D::sArriba), 0.0191) << "so it is not the slope that is too small";
   m.dialogos.esperaAviso(avisoPendiente);
   m.f.Command3.Click();
 }
@@ -239,6 +239,26 @@ TEST(InclinedDropWindow, TheWidthIsOnlyWarnedOf) {
   EXPECT_EQ(m.menus(), todos);
   m.poner({{"Text23", "2.7"}});
   m.f.Command3.Click();
+}
+
+TEST(InclinedDropWindow, ASmallRadiusIsBuiltAsFifteenCentimetresAndTheVelocityJudgesNoBasin) {
+  MesaInclinada m;
+  m.poner(inclinadaRapida());
+  m.poner({{"Text5", "0.1"}, {"Text9", "0.0191"}, {"Text8", "0.02"}});
+  m.f.Grid1.pulsar(3);
+  m.f.Command3.Click();
+  EXPECT_LT(m.valor(&D::yFin) / std::expm1(1.5 / std::pow(m.valor(&D::frArriba), 2)), 0.12);
+  EXPECT_FLOAT_EQ(m.estado.radioCurva.valor(), 0.15F);
+
+  m.poner(inclinadaSubcritica());
+  m.f.Text4.Text = "1800";
+  m.dialogos.responde(true);
+  m.f.Command3.Click();
+  ASSERT_TRUE(m.f.calculado() && m.valor(&D::fr1) > 4.5 && m.valor(&D::v1) > 15.24);
+  const auto fila = [&](int n) { return m.f.Grid1.tabla.texto(n, 2) + "|" + m.f.Grid1.tabla.texto(n, 3); };
+  EXPECT_EQ(fila(3),
+            "Factible|Fr= " + texto(Round(m.estado.fr1, 3)) + ";  V= " + texto(Round(m.estado.v1, 3)) + " m/s");
+  EXPECT_EQ(fila(4), "No Factible|V < 15.24 m/s");
 }
 
 TEST(InclinedDropWindow, AnUnaskedSubmergenceKeepsTheFormerLine) {

@@ -109,6 +109,16 @@ TEST(VerticalDrop, RelationsHoldOverRandomDrops) {
     EXPECT_NEAR(v(&D::profPoza), std::max(falta, 0.0), 0.0252);
     EXPECT_FLOAT_EQ(m.estado.cotaPoza.valor(), static_cast<float>(v(&D::cotaAbajo) - v(&D::profPoza)));
     EXPECT_NEAR(v(&D::hArriba) - v(&D::ynArriba) + v(&D::hAbajo) - v(&D::ynAbajo), 0.4, 1e-5) << "off the grid";
+    const auto transicion = [](double ancho1, double ancho2) {
+      return std::fabs(ancho1 - ancho2) / 2 / std::tan(12.5 * 3.1415 / 180);
+    };
+    const double canal = v(&D::bArriba) + 2 * v(&D::zArriba) * v(&D::ynArriba);
+    EXPECT_NEAR(v(&D::longTransEntrada), transicion(B, canal), 0.0251) << "between the widths at the water";
+    const double canalAbajo = v(&D::bAbajo) + 2 * v(&D::zAbajo) * v(&D::ynAbajo);
+    EXPECT_NEAR(v(&D::longTransSalida), transicion(W, canalAbajo), 0.0251);
+    EXPECT_NEAR(v(&D::espejoArriba), canal + 2 * v(&D::zArriba) * 0.2, 1e-4) << "now at the walls";
+    EXPECT_NEAR(v(&D::espejoAbajo), canalAbajo + 2 * v(&D::zAbajo) * 0.2, 1e-4);
+    EXPECT_NEAR(v(&D::espejoPoza) + v(&D::espejoRapida), W + B, 1e-5);
     // the free jet of the crest, on the canal's slope: half a second later it has fallen g/8 more
     const double x = v(&D::vFin) * std::cos(std::atan(v(&D::sArriba))) / 2;
     EXPECT_NEAR(v(&D::trayA) * x * x + v(&D::trayB) * x, -9.81 / 8 - v(&D::sArriba) * x, 1e-4);

@@ -174,6 +174,10 @@ TEST(VerticalDropWindow, ItsBasinByHand) {
   EXPECT_EQ(m.valor(&D::longTransVert), 0);
   EXPECT_EQ(m.valor(&D::longTransSalida), 0);
   EXPECT_EQ(m.valor(&D::espejoPoza), 1.25);
+  // a steep but rough canal: the jet leaves along it
+  m.poner({{"Text8", "0.09"}, {"Text9", "0.03"}});
+  m.f.Command3.Click();
+  EXPECT_NEAR(m.valor(&D::trayA) * 2 * std::pow(m.valor(&D::vFin), 2), -9.81 * 1.0009, 1e-4);
   m.parametros.Text9.Text = "0";
   m.dialogos.esperaFallo(falloDivision);
   m.f.Command3.Click();

@@ -37,27 +37,19 @@ inline Corrida correr(const std::vector<std::string>& argumentos) {
   return {estado, salida.str(), errores.str()};
 }
 
-/// A chute project whose lines are named; it starts as a lateral canal's chute of one reach that calculates without a
-/// word.
-class ProyectoRapida {
+/// A project whose lines are named; empty at first.
+class ProyectoTexto {
  public:
-  ProyectoRapida() : textos_(formatoRapida.lineas.size()) {
-    for (const auto& [linea, texto] : std::initializer_list<std::pair<const char*, const char*>>{
-             {"Text5", "1.5"},        {"Text6", "1.10"},       {"Text7", "1"},          {"Text8", "0.015"},
-             {"Text9", "0.0008"},     {"Text10", "0.90"},      {"Text11", "0"},         {"Text12", "0.015"},
-             {"Text13", "0.2"},       {"Text16", "1.10"},      {"Text18", "1"},         {"Text19", "0.015"},
-             {"Text20", "0.0008"},    {"Text23", "1.00"},      {"Text24", "0"},         {"Text1", "1820.50"},
-             {"Text2", "1814.50"},    {"Text4", "1814.00"},    {"Text21", "2"},         {"Text22", "1.5"},
-             {"Text25", "340"},       {"Text26", "10"},        {"Form2.Text1", "5"},    {"Form2.Text2", "6.1"},
-             {"Form2.Text3", "2.8"},  {"Form2.Text4", "4.4"},  {"Form2.Text5", "0.20"}, {"Form2.Text6", "0.30"},
-             {"Form2.Text7", "0.30"}, {"Form2.Text8", "0.20"}, {"Form2.Text10", "6"},   {"tipoTanque", "3"},
-             {"Text17", "1"}})
-      poner(linea, texto);
+  using Lineas = std::initializer_list<std::pair<const char*, const char*>>;
+
+  explicit ProyectoTexto(const FormatoProyecto& formato, Lineas lineas = {})
+      : formato_(&formato), textos_(formato.lineas.size()) {
+    for (const auto& [linea, texto] : lineas) poner(linea, texto);
   }
-  ProyectoRapida& poner(std::string_view linea, std::string texto) {
-    const auto it = std::find(formatoRapida.lineas.begin(), formatoRapida.lineas.end(), linea);
-    if (it == formatoRapida.lineas.end()) throw std::invalid_argument(std::string(linea));
-    textos_[static_cast<std::size_t>(it - formatoRapida.lineas.begin())] = std::move(texto);
+  ProyectoTexto& poner(std::string_view linea, std::string texto) {
+    const auto it = std::find(formato_->lineas.begin(), formato_->lineas.end(), linea);
+    if (it == formato_->lineas.end()) throw std::invalid_argument(std::string(linea));
+    textos_[static_cast<std::size_t>(it - formato_->lineas.begin())] = std::move(texto);
     return *this;
   }
   std::string contenido() const {
@@ -67,7 +59,24 @@ class ProyectoRapida {
   }
 
  private:
+  const FormatoProyecto* formato_;
   std::vector<std::string> textos_;
+};
+
+/// It starts as a lateral canal's chute of one reach that calculates without a word.
+struct ProyectoRapida : ProyectoTexto {
+  ProyectoRapida()
+      : ProyectoTexto(
+            formatoRapida,
+            {{"Text5", "1.5"},        {"Text6", "1.10"},       {"Text7", "1"},          {"Text8", "0.015"},
+             {"Text9", "0.0008"},     {"Text10", "0.90"},      {"Text11", "0"},         {"Text12", "0.015"},
+             {"Text13", "0.2"},       {"Text16", "1.10"},      {"Text18", "1"},         {"Text19", "0.015"},
+             {"Text20", "0.0008"},    {"Text23", "1.00"},      {"Text24", "0"},         {"Text1", "1820.50"},
+             {"Text2", "1814.50"},    {"Text4", "1814.00"},    {"Text21", "2"},         {"Text22", "1.5"},
+             {"Text25", "340"},       {"Text26", "10"},        {"Form2.Text1", "5"},    {"Form2.Text2", "6.1"},
+             {"Form2.Text3", "2.8"},  {"Form2.Text4", "4.4"},  {"Form2.Text5", "0.20"}, {"Form2.Text6", "0.30"},
+             {"Form2.Text7", "0.30"}, {"Form2.Text8", "0.20"}, {"Form2.Text10", "6"},   {"tipoTanque", "3"},
+             {"Text17", "1"}}) {}
 };
 
 }  // namespace calvento::lote

@@ -2,6 +2,7 @@
 #include <ctime>
 #include <gtest/gtest.h>
 #include <random>
+#include <tuple>
 
 #include "corrida.h"
 #include "lote/sesion.h"
@@ -36,8 +37,14 @@ std::string numero(double x, int decimales) {
   return bufer.data();
 }
 
+/// A random project, and what is put into its windows beyond the file.
+struct Azaroso {
+  ProyectoTexto proyecto;
+  std::vector<Asignacion> campos;
+};
+
 /// A chute that an engineer could have typed.
-ProyectoRapida sensato(Azar& azar) {
+Azaroso rapida(Azar& azar) {
   ProyectoRapida p;
   const double Q = std::exp(entre(azar, std::log(0.1), std::log(15.0)));
   const double b = 0.765 * std::pow(Q, 0.4);
@@ -59,8 +66,73 @@ ProyectoRapida sensato(Azar& azar) {
     cota -= c == cotas[cotas.size() - 2] ? entre(azar, 0.1, 1) : entre(azar, 1, 12);
   }
   p.poner("tipoTanque", zPoza > 0 ? "6" : std::to_string(1 + hasta(azar, 5)));
-  return p;
+  return {p, {}};
 }
+
+/// Canals of a drop and its basin of width b, with the fields that both kinds of drop name alike.
+void canales(Azar& azar, ProyectoTexto& p, double Q, double b, bool rapido) {
+  const double cota = entre(azar, 5, 4200);
+  p.poner("Text5", numero(Q, 3)).poner("Text23", numero(b, 2)).poner("Text25", numero(entre(azar, 0, 20000), 1));
+  p.poner("Text2", numero(cota, 2)).poner("Text4", numero(cota - entre(azar, 0.8, 4.4), 2));
+  for (const char* ancho : {"Text6", "Text16"}) p.poner(ancho, numero(b * entre(azar, 0.75, 1), 2));
+  for (const char* talud : {"Text7", "Text18"}) p.poner(talud, rapido || hasta(azar, 3) == 0 ? "0" : "1");
+  for (const char* rugosidad : {"Text8", "Text19"}) p.poner(rugosidad, numero(entre(azar, 0.013, 0.02), 3));
+  p.poner("Text9", numero(rapido ? entre(azar, 0.035, 0.08) : entre(azar, 0.0005, 0.0015), 5));
+  p.poner("Text20", numero(entre(azar, 0.0005, 0.0015), 5)).poner("Text22", numero(entre(azar, 0, 2), 1));
+}
+
+/// An inclined drop; a third of them has a steep canal, for which the outlet is asked for too.
+Azaroso inclinada(Azar& azar) {
+  ProyectoTexto p(formatoCaidaInclinada, {{"Text21", "2"},
+                                          {"Text3", "10"},
+                                          {"Form2.Text1", "5"},
+                                          {"Form2.Text2", "6.1"},
+                                          {"Form2.Text3", "2.8"},
+                                          {"Form2.Text4", "4.4"},
+                                          {"Form2.Text5", "0.20"},
+                                          {"Form2.Text6", "0.30"},
+                                          {"Form2.Text7", "0.30"},
+                                          {"Form2.Text8", "0.20"},
+                                          {"Form2.Text10", "6"},
+                                          {"anguloTransicion", "12.5"}});
+  const bool rapido = hasta(azar, 3) == 0;
+  const double Q = std::exp(entre(azar, std::log(0.1), std::log(rapido ? 3.0 : 15.0)));
+  canales(azar, p, Q, 18.78 * std::sqrt(Q) / (10.11 + Q) * entre(azar, 1, 1.3), rapido);
+  const bool trapezoidal = hasta(azar, 4) == 0;
+  p.poner("Text24", trapezoidal ? "0.5" : "0");
+  p.poner("tipoTanque", trapezoidal ? "6" : std::to_string(1 + hasta(azar, 5)));
+  if (!rapido) return {p, {}};
+  return {p, {{"Form1", "mnsuper", "1"}}};
+}
+
+/// A vertical drop with either option and either aeration, set in the file or in the windows.
+Azaroso vertical(Azar& azar) {
+  ProyectoTexto p(formatoCaidaVertical, {{"Form25.Text2", "0.20"},
+                                         {"Form25.Text1", "5"},
+                                         {"Form25.Text5", "0.20"},
+                                         {"Form25.Text8", "0.20"},
+                                         {"anguloTransicion", "12.5"},
+                                         {"tipoTubo", "Tubería de PVC"},
+                                         {"longTubo", "2"},
+                                         {"diamTubo", "0.0508"}});
+  const double Q = std::exp(entre(azar, std::log(0.1), std::log(6.0)));
+  canales(azar, p, Q, 1.2 * std::pow(Q, 0.4) * entre(azar, 0.9, 1.3), false);
+  p.poner("tipoTransVert", std::to_string(hasta(azar, 2))).poner("tipoTanque", std::to_string(hasta(azar, 2)));
+  std::vector<Asignacion> campos;
+  if (hasta(azar, 3) == 0) campos.push_back({"Form16", hasta(azar, 2) == 0 ? "Option1" : "Option2", "1"});
+  if (hasta(azar, 3) == 0) campos.push_back({"Form25", hasta(azar, 2) == 0 ? "Option3" : "Option4", "1"});
+  return {p, campos};
+}
+
+struct Estructura {
+  const char* nombre;
+  const FormatoProyecto& formato;
+  Azaroso (*sensato)(Azar&);
+  const char* parametros;
+};
+const Estructura estructuras[] = {{"rapida", formatoRapida, rapida, "Form2"},
+                                  {"inclinada", formatoCaidaInclinada, inclinada, "Form2"},
+                                  {"vertical", formatoCaidaVertical, vertical, "Form25"}};
 
 const std::vector<std::string>& raros() {
   static const std::vector<std::string> todos = {"",
@@ -116,74 +188,87 @@ const std::vector<std::string>& raros() {
   return todos;
 }
 
+Azaroso sensato(Azar& azar, const Estructura& e) { return e.sensato(azar); }
+
 /// A sensible project with a few fields that are not.
-ProyectoRapida raro(Azar& azar) {
-  ProyectoRapida p = sensato(azar);
+Azaroso raro(Azar& azar, const Estructura& e) {
+  Azaroso a = e.sensato(azar);
   for (std::size_t i = 1 + hasta(azar, 3); i-- > 0;) {
-    const auto linea = formatoRapida.lineas[hasta(azar, formatoRapida.lineas.size())];
+    const auto linea = e.formato.lineas[hasta(azar, e.formato.lineas.size())];
     if (hasta(azar, 2) == 0)
-      p.poner(linea, raros()[hasta(azar, raros().size())]);
+      a.proyecto.poner(linea, raros()[hasta(azar, raros().size())]);
     else
-      p.poner(linea, numero(std::exp(entre(azar, -14, 14)) * (hasta(azar, 4) == 0 ? -1 : 1), 6));
+      a.proyecto.poner(linea, numero(std::exp(entre(azar, -14, 14)) * (hasta(azar, 4) == 0 ? -1 : 1), 6));
   }
-  return p;
+  return a;
 }
 
 /// Whatever in every field.
-ProyectoRapida basura(Azar& azar) {
-  ProyectoRapida p;
-  for (const auto linea : formatoRapida.lineas) {
-    if (hasta(azar, 3) == 0) continue;
-    p.poner(linea, hasta(azar, 2) == 0 ? raros()[hasta(azar, raros().size())]
-                                       : numero(std::exp(entre(azar, -8, 8)), static_cast<int>(hasta(azar, 5))));
-  }
-  return p;
+Azaroso basura(Azar& azar, const Estructura& e) {
+  Azaroso a = e.sensato(azar);
+  for (const auto linea : e.formato.lineas)
+    a.proyecto.poner(linea, hasta(azar, 3) == 0 ? ""
+                            : hasta(azar, 2) == 0
+                                ? raros()[hasta(azar, raros().size())]
+                                : numero(std::exp(entre(azar, -8, 8)), static_cast<int>(hasta(azar, 5))));
+  return a;
 }
 
 struct Clase {
   const char* nombre;
-  ProyectoRapida (*proyecto)(Azar&);
+  Azaroso (*proyecto)(Azar&, const Estructura&);
   bool conRaros;         ///< fields, options and the length of the file may be senseless
   double fraccion;       ///< of all random projects
   double calculaMinimo;  ///< of these, at least so many run to their end
   double calculaMaximo;
 };
 void PrintTo(const Clase& c, std::ostream* salida) { *salida << c.nombre; }
+void PrintTo(const Estructura& e, std::ostream* salida) { *salida << e.nombre; }
+using Caso = std::tuple<Clase, Estructura>;
+std::string nombre(const Caso& caso) { return std::string(std::get<1>(caso).nombre) + "_" + std::get<0>(caso).nombre; }
 
-class ProyectosAlAzar : public testing::TestWithParam<Clase> {};
+class ProyectosAlAzar : public testing::TestWithParam<Caso> {};
 
 TEST_P(ProyectosAlAzar, EndInTimeCalculatedOrWithAMessage) {
-  const Clase& clase = GetParam();
-  const int n = std::max(1, static_cast<int>(cuantos() * clase.fraccion));
+  const auto& [clase, estructura] = GetParam();
+  const int n = std::max(1, static_cast<int>(cuantos() * clase.fraccion / std::size(estructuras)));
   const CarpetaPrueba carpeta;
   int calculados = 0;
   double peor = 0;
   for (int i = 0; i < n; ++i) {
     Azar azar(static_cast<unsigned>(i) * 3 + static_cast<unsigned>(clase.nombre[0]));
-    std::string contenido = clase.proyecto(azar).contenido();
+    const Azaroso azaroso = clase.proyecto(azar, estructura);
+    std::string contenido = azaroso.proyecto.contenido();
     if (clase.conRaros && hasta(azar, 20) == 0) contenido.resize(hasta(azar, contenido.size()));
     Opciones opciones;
     opciones.responder = hasta(azar, 3) != 0;
     opciones.veces = static_cast<int>(hasta(azar, 3));
-    if (hasta(azar, 4) == 0)
-      opciones.campos = {{"Form2", "Text9", clase.conRaros ? raros()[hasta(azar, raros().size())] : "15"},
-                         {"Form10", "Grid1", std::to_string(hasta(azar, 7))}};
-    const std::string archivo = carpeta.escribir("azar.cvr", contenido);
+    opciones.campos = azaroso.campos;
+    if (hasta(azar, 4) == 0) {
+      opciones.campos.push_back(
+          {estructura.parametros, "Text9", clase.conRaros ? raros()[hasta(azar, raros().size())] : "15"});
+      if (std::string_view(estructura.parametros) == "Form2")
+        opciones.campos.push_back({std::string(estructura.formato.ventana), "Grid1", std::to_string(hasta(azar, 7))});
+    }
+    const std::string archivo = carpeta.escribir("azar." + std::string(estructura.formato.extension), contenido);
+    const auto que = [&] {
+      std::string s = "project " + std::to_string(i);
+      for (const Asignacion& c : opciones.campos) s += " " + c.ventana + "." + c.control + "=" + c.texto;
+      return s + ":\n" + contenido;
+    };
     const std::clock_t antes = std::clock();
     // an exception that leaves the session is a fault too
     ASSERT_NO_THROW({
       const Sesion sesion(opciones, archivo);
       const double segundos = static_cast<double>(std::clock() - antes) / CLOCKS_PER_SEC;
       peor = std::max(peor, segundos);
-      EXPECT_LT(segundos, limite) << "project " << i << ":\n" << contenido;
-      EXPECT_TRUE(sesion.calculado() || !sesion.mensajes().empty()) << "silent project " << i << ":\n" << contenido;
+      EXPECT_LT(segundos, limite) << que();
+      EXPECT_TRUE(sesion.calculado() || !sesion.mensajes().empty()) << "silent " << que();
       if (sesion.calculado()) {
         ++calculados;
-        EXPECT_TRUE(sesion.ventana()->buscar<Menu>("mngrafico")->Enabled) << i;
+        EXPECT_TRUE(sesion.ventana()->buscar<Menu>("mngrafico")->Enabled) << que();
       }
-    }) << "project "
-       << i << ":\n"
-       << contenido;
+    }) << que();
     if (HasFailure()) break;
   }
   RecordProperty("peor_ms", static_cast<int>(peor * 1000));
@@ -194,10 +279,11 @@ TEST_P(ProyectosAlAzar, EndInTimeCalculatedOrWithAMessage) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, ProyectosAlAzar,
-                         testing::Values(Clase{"sensatos", sensato, false, 0.3, 0.95, 1},
-                                         Clase{"raros", raro, true, 0.4, 0.2, 0.8},
-                                         Clase{"basura", basura, true, 0.3, 0, 0.2}),
-                         [](const auto& caso) { return std::string(caso.param.nombre); });
+                         testing::Combine(testing::Values(Clase{"sensatos", sensato, false, 0.3, 0.95, 1},
+                                                          Clase{"raros", raro, true, 0.4, 0.2, 0.8},
+                                                          Clase{"basura", basura, true, 0.3, 0, 0.2}),
+                                          testing::ValuesIn(estructuras)),
+                         [](const auto& caso) { return nombre(caso.param); });
 
 }  // namespace
 }  // namespace calvento::lote

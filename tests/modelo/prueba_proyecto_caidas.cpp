@@ -87,7 +87,7 @@ void idaYVuelta(const Lineas& lineas, const char* archivo, const char* filtro, c
   std::vector<std::string> antes = leerLineas(archivo, 99);
   for (std::size_t i = 0; i < lineas.size(); ++i) {
     const std::string_view nombre = lineas[i].first;
-    if (nombre != "tubo" && !nombre.ends_with("Tubo")) {
+    if (!nombre.ends_with("Tubo") && nombre != "tubo") {
       EXPECT_EQ(antes[i], lineas[i].second) << nombre;
     }
     if (TextBox* c = campo(m, nombre)) {
@@ -155,6 +155,16 @@ TEST(DropProjects, AVerticalDropSetsItsOptionsFromTheFile) {
     EXPECT_EQ(m.estado.tipoTubo, "Tubería de PVC");
     EXPECT_NEAR(m.valor(&DesignState::diamTubo), 0.0508, 1e-8);
   }
+  // a calculation that stops before the pipes leaves those of the file
+  carpeta.escribir("a.cvv", contenido(vertical, "Text9", "0.05"));
+  m.dialogos.esperaAviso();
+  m.f.abrir("a.cvv");
+  EXPECT_EQ(m.estado.tipoTubo, "Tubería de Fierro");
+  EXPECT_EQ(m.valor(&DesignState::longTubo), 3);
+  EXPECT_NEAR(m.valor(&DesignState::diamTubo), 0.1016, 1e-8);
+  m.f.mnguardar.Click();
+  EXPECT_EQ(leerLineas("a.cvv", 99)[20], "3");
+  EXPECT_EQ(leerLineas("a.cvv", 99)[21], "0.1016");
 }
 
 }  // namespace
