@@ -1,13 +1,16 @@
 #pragma once
 
+#include <cmath>
 #include <gtest/gtest.h>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
 #include "apoyo/dialogos_guion.h"
 #include "apoyo/navegador_mudo.h"
+#include "comun/numeros.h"
 #include "modelo/design_state.h"
 #include "plataforma/ventana.h"
 
@@ -60,6 +63,21 @@ struct MesaDe {
       return Parametros(estado, navegador);
   }
 };
+
+/// Gives the upstream canal of a window such a roughness and slope that its Froude number is exactly one.
+template <class Mesa>
+void buscarFroudeUno(Mesa& m) {
+  // searched by halving, down to neighbouring 4-byte slopes
+  for (int n = 350; n < 450 && m.valor(&DesignState::frArriba) != 1; ++n) {
+    m.f.Text8.Text = "0.0" + std::to_string(n);
+    float lento = 0.001F, rapido = 0.2F;
+    while (m.valor(&DesignState::frArriba) != 1 && std::nextafter(lento, 1.0F) < rapido) {
+      const float S = (lento + rapido) / 2;
+      m.f.Text9.Text = texto(Real(Single::deFloat(S)));
+      (m.valor(&DesignState::frArriba) < 1 ? lento : rapido) = S;
+    }
+  }
+}
 
 /// Runs a calculation on a record full of a sentinel and returns which 4-byte fields were written, as words between
 /// blanks in the order of the record.

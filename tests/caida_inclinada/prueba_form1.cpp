@@ -148,16 +148,7 @@ TEST(InclinedDropWindow, AtAFroudeNumberOfOneTheCalculationTakesTheControlSectio
   m.poner(inclinadaSubcritica());
   m.poner({{"Text7", "0"}, {"Text23", "1.4"}});
   m.f.Grid1.pulsar(3);
-  // roughness and slope that make it exactly one are searched by halving, down to neighbouring 4-byte slopes
-  for (int n = 350; n < 450 && m.valor(&D::frArriba) != 1; ++n) {
-    m.f.Text8.Text = "0.0" + std::to_string(n);
-    float lento = 0.001F, rapido = 0.2F;
-    while (m.valor(&D::frArriba) != 1 && std::nextafter(lento, 1.0F) < rapido) {
-      const float S = (lento + rapido) / 2;
-      m.f.Text9.Text = texto(Real(Single::deFloat(S)));
-      (m.valor(&D::frArriba) < 1 ? lento : rapido) = S;
-    }
-  }
+  buscarFroudeUno(m);
   ASSERT_EQ(m.valor(&D::frArriba), 1);
   m.f.Frame1.Visible = false;
   m.f.Label41.Caption = "former";
