@@ -64,12 +64,12 @@ struct MesaDe {
   }
 };
 
-/// Gives the upstream canal of a window such a roughness and slope that its Froude number is exactly one.
+/// Gives the upstream canal of a window such a width and slope that its Froude number is exactly one.
 template <class Mesa>
 void buscarFroudeUno(Mesa& m) {
   // searched by halving, down to neighbouring 4-byte slopes
-  for (int n = 350; n < 450 && m.valor(&DesignState::frArriba) != 1; ++n) {
-    m.f.Text8.Text = "0.0" + std::to_string(n);
+  for (int b = 100; b < 200 && m.valor(&DesignState::frArriba) != 1; ++b) {
+    m.f.Text6.Text = "1." + std::to_string(b);
     float lento = 0.001F, rapido = 0.2F;
     while (m.valor(&DesignState::frArriba) != 1 && std::nextafter(lento, 1.0F) < rapido) {
       const float S = (lento + rapido) / 2;

@@ -146,7 +146,7 @@ TEST(InclinedDropWindow, LimitsOfBothRegimes) {
 TEST(InclinedDropWindow, AtAFroudeNumberOfOneTheCalculationTakesTheControlSection) {
   MesaInclinada m;
   m.poner(inclinadaSubcritica());
-  m.poner({{"Text7", "0"}, {"Text23", "1.4"}});
+  m.poner({{"Text7", "0"}, {"Text8", "0.035"}, {"Text23", "1.4"}});
   m.f.Grid1.pulsar(3);
   buscarFroudeUno(m);
   ASSERT_EQ(m.valor(&D::frArriba), 1);
@@ -157,6 +157,7 @@ TEST(InclinedDropWindow, AtAFroudeNumberOfOneTheCalculationTakesTheControlSectio
   EXPECT_EQ(m.f.Label41.Caption.valor(), "former");
   m.f.Command3.Click();
   EXPECT_TRUE(m.f.calculado() && m.f.Frame1.Visible);
+  EXPECT_EQ(m.valor(&D::frArriba), 1);
   EXPECT_EQ(m.f.Label41.Caption.valor(), "");
   EXPECT_EQ(m.valor(&D::bEntradaCaida), m.valor(&D::bPozaCaida));
   m.f.mnsuper.Click();

@@ -86,11 +86,12 @@ TEST(VerticalDropWindow, LimitsOptionsAndMenus) {
   }
   MesaVertical m;
   m.poner(verticalDeLateral());
-  m.poner({{"Text7", "0"}, {"Text23", "1.4"}});
+  m.poner({{"Text7", "0"}, {"Text8", "0.035"}, {"Text23", "0.9"}});
   buscarFroudeUno(m);
   ASSERT_EQ(m.valor(&D::frArriba), 1);
   m.f.Command3.Click();
   EXPECT_TRUE(m.f.calculado()) << "critical is not fast";
+  EXPECT_EQ(m.valor(&D::frArriba), 1);
   for (Menu* menu : {&m.f.mngrafico, &m.f.mnseccion, &m.f.mntanque, &m.f.mnparam}) menu->Click();
   m.estado.tipoTanque = 1;
   m.f.Command2.Click();
