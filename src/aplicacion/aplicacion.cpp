@@ -6,6 +6,8 @@
 #include "aplicacion/frm_about.h"
 #include "aplicacion/frm_main.h"
 #include "cad/form12.h"
+#include "cad/form18.h"
+#include "cad/form9.h"
 #include "caida_inclinada/form1.h"
 #include "caida_vertical/form16.h"
 #include "comun/fallo.h"
@@ -58,6 +60,8 @@ const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
       {"Form7", [](Aplicacion& a) { return std::make_unique<Form7>(a.estado, a.form2(), a.dialogos_, a); }},
       {"Form26", [](Aplicacion& a) { return std::make_unique<Form26>(a.estado, a); }},
       {"Form12", [](Aplicacion& a) { return std::make_unique<Form12>(a.estado, a.form2(), a.dialogos_, a, a.cad_); }},
+      {"Form9", [](Aplicacion& a) { return std::make_unique<Form9>(a.estado, a.form2(), a.dialogos_, a, a.cad_); }},
+      {"Form18", [](Aplicacion& a) { return std::make_unique<Form18>(a.estado, a.form25(), a.dialogos_, a, a.cad_); }},
   };
   return ventanas;
 }

@@ -95,9 +95,11 @@ void Envio::cadena(const CadenaCotas& cadena) {
   }
 }
 
-void Envio::altura(const CotaAltura& c) {
-  cota({c.x, c.abajo}, {c.x, c.arriba}, {c.x, (c.abajo + c.arriba) / 2}, separacionEnSitio);
+void Envio::distancia(const Segmento& s) {
+  cota(s.a, s.b, {(s.a.x + s.b.x) / 2, (s.a.y + s.b.y) / 2}, separacionEnSitio);
 }
+
+void Envio::altura(const CotaAltura& c) { distancia({{c.x, c.abajo}, {c.x, c.arriba}}); }
 
 void Envio::ancho(const AnchoEn& a, double eje) { altura({a.x, eje - a.medio, eje + a.medio}); }
 

@@ -45,7 +45,8 @@ class Envio {
 
   /// Dimensions of every stretch of a chain, on the level of its line.
   void cadena(const CadenaCotas& cadena);
-  /// A dimension on the measured line itself.
+  /// Dimensions on the measured line itself.
+  void distancia(const Segmento& entre);
   void altura(const CotaAltura& cota);
   void ancho(const AnchoEn& ancho, double eje);
 

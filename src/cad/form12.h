@@ -13,10 +13,7 @@ class Form12 : public MarcoExportar {
 
  private:
   Cuadricula cuadricula() const override;
-  void enviarFigura(Envio& envio) override;
-  void DIBUJAGRADIENTE(Envio& envio) override;
-  void ACOTAR(Envio& envio) override;
-  void DIBUBABLOCKS(Envio& envio) override;
+  HojaCad hoja() const override;
 
   const Form2& parametros_;
 };

@@ -23,6 +23,12 @@ void comprobarPaso(Real desde, Real hasta, Real paso) {
 
 Real metroEntero(Real valor) { return Round(valor, 0); }
 
+MarcoExportar::Cuadricula MarcoExportar::cuadriculaCaida() const {
+  const DesignState& e = estado_;
+  return {metroEntero(e.progresivaInicio - e.longControl - e.longTransEntrada - 5),
+          metroEntero(e.progresivaFinPoza + 5), metroEntero(e.cotaPoza), metroEntero(e.cotaFin)};
+}
+
 MarcoExportar::MarcoExportar(std::string_view nombre, DesignState& estado, Dialogos& dialogos, Navegador& navegador,
                              ConexionCad& conexion)
     : Ventana(nombre, "Exportar Diseño al AutoCAD 2010"), estado_(estado), dialogos_(dialogos), conexion_(conexion) {
@@ -74,10 +80,37 @@ void MarcoExportar::exportar(AplicacionCad& cad) {
   for (const auto& [nombre, color] : colores) cad.ActiveDocument().capa(nombre).color(color);
   enviarCuadricula(cad);
   Envio envio(cad, Real(estado_.progresivaInicio).valor(), Real(estado_.cadAlturaTexto).valor());
-  enviarFigura(envio);
-  if (Check1.Value) DIBUJAGRADIENTE(envio);
-  ACOTAR(envio);
-  DIBUBABLOCKS(envio);
+  const HojaCad figura = hoja();
+  enviarFigura(envio, figura);
+  if (Check1.Value) envio.polilinea(figura.energia, capas::energia);
+  ACOTAR(envio, figura);
+  envio.bloques(figura.bloques);
+}
+
+void MarcoExportar::enviarFigura(Envio& envio, const HojaCad& figura) {
+  static constexpr std::array<int, 5> avances = {75, 80, 85, 90, 95};
+  for (std::size_t i = 0; i < avances.size(); ++i) {
+    for (const ParEstacion& par : figura.textos[i].pares) envio.parEstacion(par);
+    for (const RotuloPendiente& r : figura.textos[i].pendientes) envio.pendiente(r);
+    avance(avances[i]);
+  }
+  envio.polilinea(figura.concreto, capas::estructura);
+  envio.polilinea(figura.corona, capas::canal);
+  for (const auto& borde : figura.bordesFondo) envio.polilinea(borde, capas::canal);
+  envio.lineas(figura.lineasPlanta, capas::canal);
+  envio.polilinea(figura.superficie, capas::agua);
+  avance(97);
+  for (const auto& contorno : {figura.canal, figura.canalAbajo, figura.muroBajo, figura.muroAlto})
+    envio.polilinea(contorno, capas::estructura);
+  avance(100);
+}
+
+void MarcoExportar::ACOTAR(Envio& envio, const HojaCad& figura) {
+  for (const Punto& p : figura.puntosControl) envio.circulo(p, medioPuntoControl, capas::estructura);
+  for (const CadenaCotas& c : figura.cadenas) envio.cadena(c);
+  for (const CotaAltura& c : figura.alturas) envio.altura(c);
+  for (const AnchoEn& a : figura.anchos) envio.ancho(a, figura.eje);
+  for (const Segmento& s : figura.distancias) envio.distancia(s);
 }
 
 void MarcoExportar::enviarCuadricula(AplicacionCad& cad) {

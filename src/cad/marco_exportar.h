@@ -5,6 +5,7 @@
 
 #include "cad/aplicacion_cad.h"
 #include "cad/envio.h"
+#include "cad/hoja_cad.h"
 #include "modelo/design_state.h"
 #include "plataforma/control.h"
 #include "plataforma/dialogos.h"
@@ -39,18 +40,18 @@ class MarcoExportar : public Ventana {
     Real Xa, Xb, Za, Zb;
   };
   virtual Cuadricula cuadricula() const = 0;
-  /// Texts and outlines, with their progress from 75 to 100.
-  virtual void enviarFigura(Envio& envio) = 0;
-  virtual void DIBUJAGRADIENTE(Envio& envio) = 0;
-  virtual void ACOTAR(Envio& envio) = 0;
-  virtual void DIBUBABLOCKS(Envio& envio) = 0;
-
-  void avance(Real valor) { osProgress1.Value = valor.valor(); }
+  /// That of a drop: from the start of the drawn canal before the control section to the end of the drawn canal behind
+  /// the outlet transition, which the drawing window counts into the end of the structure; up to the crest.
+  Cuadricula cuadriculaCaida() const;
+  virtual HojaCad hoja() const = 0;
   const DesignState& estado() const { return estado_; }
 
  private:
   void exportar(AplicacionCad& cad);
   void enviarCuadricula(AplicacionCad& cad);
+  void enviarFigura(Envio& envio, const HojaCad& figura);
+  static void ACOTAR(Envio& envio, const HojaCad& figura);
+  void avance(Real valor) { osProgress1.Value = valor.valor(); }
 
   DesignState& estado_;
   Dialogos& dialogos_;

@@ -24,14 +24,11 @@ void nota(Lienzo& lienzo, double x, double y, std::initializer_list<std::string>
   }
 }
 
-/// Distance of the obstacles from the face, in the plan between axis and lower wall.
-void cotaObstaculos(Lienzo& lienzo, const GeometriaVertical& g, const ObstaculosCaida& o, double eje) {
-  const double y = eje - g.anchoPoza() / 4;
-  const double x = o.distancia.valor();
-  lienzo.Line({0, y}, {x, y});
-  flechaHorizontal(lienzo, {0, y}, 1);
-  flechaHorizontal(lienzo, {x, y}, -1);
-  rotuloCentrado(lienzo, x / 2, y + renglon, formato(o.distancia, "0.000"));
+void cotaObstaculos(Lienzo& lienzo, const Segmento& s) {
+  lienzo.Line(s.a, s.b);
+  flechaHorizontal(lienzo, s.a, 1);
+  flechaHorizontal(lienzo, s.b, -1);
+  rotuloCentrado(lienzo, s.b.x / 2, s.b.y + renglon, formato(s.b.x, "0.000"));
 }
 
 /// Beside the plan, behind the stations that are written at the end of the basin.
@@ -39,7 +36,7 @@ void notaObstaculos(Lienzo& lienzo, const GeometriaVertical& g, const MinimoBloq
   const Valores& v = g.valores();
   if (!(v.estado.tipoTanque == 0)) return;
   const ObstaculosCaida o = obstaculosCaida(v.estado, minimo);
-  cotaObstaculos(lienzo, g, o, eje);
+  cotaObstaculos(lienzo, distanciaObstaculos(g, o, eje));
   const double pie = eje - std::max(v.espejoPoza, v.espejoAbajo) / 2 - espesorMuro;
   nota(
       lienzo, g.estaciones().xPoza2 + 0.3, pie - 0.05,
@@ -63,6 +60,11 @@ void notaVentilacion(Lienzo& lienzo, const GeometriaVertical& g, const std::stri
 }
 
 }  // namespace
+
+Segmento distanciaObstaculos(const GeometriaVertical& g, const ObstaculosCaida& o, double eje) {
+  const double y = eje - g.anchoPoza() / 4;
+  return {{0, y}, {o.distancia.valor(), y}};
+}
 
 void FiguraVertical::POLIGONO(Lienzo& lienzo) const {
   pintarAguaSeccion(lienzo, GeometriaVertical(estado_).agua(estado_));

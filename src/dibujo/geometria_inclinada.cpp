@@ -45,16 +45,27 @@ void GeometriaInclinada::trazarCurvaDeVuelta(Trazo& trazo, int hasta) const {
   }
 }
 
-std::vector<Punto> GeometriaInclinada::agua() const {
-  const Punto inicio{xCanal(), fondoArriba(-xCanal())};
+void GeometriaInclinada::trazarSuperficie(Trazo& trazo) const {
   const double xMedio = xTransE() - canalDibujado / 2;
-  Trazo trazo;
-  trazo.punto(inicio).punto(inicio.x, inicio.y + v.ynArriba);
-  trazo.punto(xMedio, fondoArriba(-xMedio) + v.ynArriba);
+  for (const double x : {xCanal(), xMedio}) trazo.punto(x, fondoArriba(-x) + v.ynArriba);
   trazo.punto(xControl(), (v.yFin + v.ynArriba - v.sobreelevacion) / 2 + inicioControl().y);
   trazo.punto(0, v.yFin + v.cotaFin);
   trazarCurva(trazo, v.yFin);
-  trazarAguaPoza(trazo, v, p);
+  trazarSuperficiePoza(trazo, v, p);
+}
+
+std::vector<Punto> GeometriaInclinada::superficie() const {
+  Trazo trazo;
+  trazarSuperficie(trazo);
+  return trazo.puntos();
+}
+
+std::vector<Punto> GeometriaInclinada::agua() const {
+  const Punto inicio{xCanal(), fondoArriba(-xCanal())};
+  Trazo trazo;
+  trazo.punto(inicio);
+  trazarSuperficie(trazo);
+  trazarFondoPoza(trazo, v, p);
   trazarCurvaDeVuelta(trazo, 1);
   trazo.punto(0, v.cotaFin).punto(inicioControl()).punto(puntoUmbral()).punto(inicio);
   return trazo.puntos();

@@ -32,9 +32,10 @@ class GeometriaInclinada {
   /// Elevation of the energy line at the crest.
   double energiaCresta() const { return v.vFin * v.vFin / dosG + v.yFin + v.cotaFin; }
 
-  std::vector<Punto> agua() const;      ///< water body: 52 points
-  std::vector<Punto> concreto() const;  ///< concrete of the drop: 39 points
-  std::vector<Punto> canal() const;     ///< lining of the upstream canal with the sill: 7 points
+  std::vector<Punto> agua() const;        ///< water body: 52 points
+  std::vector<Punto> superficie() const;  ///< its upper side: 31 points
+  std::vector<Punto> concreto() const;    ///< concrete of the drop: 39 points
+  std::vector<Punto> canal() const;       ///< lining of the upstream canal with the sill: 7 points
   /// Lining of the downstream canal: 5 points.
   std::vector<Punto> canalAbajo() const { return revestimientoAbajo(v, p); }
   std::vector<Punto> corona() const;         ///< top of the lining: 6 points
@@ -46,6 +47,7 @@ class GeometriaInclinada {
 
  private:
   double arco(double x, double radio) const;
+  void trazarSuperficie(Trazo& trazo) const;
   void trazarCurva(Trazo& trazo, double sobre) const;
   void trazarCurvaDeVuelta(Trazo& trazo, int hasta) const;
 

@@ -51,9 +51,7 @@ void GeometriaVertical::trazarNapa(Trazo& trazo, double recorrido, bool deVuelta
   }
 }
 
-std::vector<Punto> GeometriaVertical::agua(DesignState& e) const {
-  const double fondoSalida = fondoAbajo(v, v.longTransSalida + canalDibujado);
-  Trazo trazo;
+void GeometriaVertical::trazarSuperficie(Trazo& trazo, DesignState& e) const {
   const auto& perfil = v.estado.perfilCaida;
   // the rise of the bed goes by the depth, not by the distance: meant so
   for (auto fila = perfil.rbegin(); fila != perfil.rend(); ++fila)
@@ -63,10 +61,21 @@ std::vector<Punto> GeometriaVertical::agua(DesignState& e) const {
   trazarNapa(trazo, e.xTrayectoria.valor(), false, v.yFin);
   pasandoFallos([&] { e.xTrayectoria += e.y1; });
   trazarResalto(trazo, e.xTrayectoria.valor(), v.cotaPoza, v.longPoza, v.y1, v.y2);
+  trazo.punto(p.xPoza2, v.ynAbajo + v.cotaAbajo);
+  trazo.punto(p.xSalida, v.ynAbajo + fondoAbajo(v, v.longTransSalida + canalDibujado));
+}
 
-  trazo.punto(p.xPoza2, v.ynAbajo + v.cotaAbajo).punto(p.xSalida, v.ynAbajo + fondoSalida);
-  trazo.punto(p.xSalida, fondoSalida - espesorMuro * v.sAbajo).punto(p.xPoza2 + espesorMuro, v.cotaAbajo);
-  trazo.punto(p.xPoza2, v.cotaAbajo).punto(p.xPoza1, v.cotaPoza);
+std::vector<Punto> GeometriaVertical::superficie(DesignState estado) const {
+  Trazo trazo;
+  trazarSuperficie(trazo, estado);
+  return trazo.puntos();
+}
+
+std::vector<Punto> GeometriaVertical::agua(DesignState& e) const {
+  Trazo trazo;
+  trazarSuperficie(trazo, e);
+  trazo.punto(p.xSalida, fondoAbajo(v, v.longTransSalida + canalDibujado) - espesorMuro * v.sAbajo);
+  trazo.punto(p.xPoza2 + espesorMuro, v.cotaAbajo).punto(p.xPoza2, v.cotaAbajo).punto(p.xPoza1, v.cotaPoza);
   trazo.punto(0, v.cotaPoza).punto(0, v.yVert94 + v.cotaPoza);
 
   pasandoFallos([&] { e.xTrayectoria = recorridoInferior(e); });

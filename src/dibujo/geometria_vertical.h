@@ -39,6 +39,8 @@ class GeometriaVertical {
   /// Water body: rows of the drawdown + 47 points. It writes the runs of the nappe into xTrayectoria of the record, one
   /// after the other, and leaves the one of the lower nappe there: that is meant, since later routines read it.
   std::vector<Punto> agua(DesignState& estado) const;
+  /// The upper side of the water body, computed on a copy of the record: rows of the drawdown + 27 points.
+  std::vector<Punto> superficie(DesignState estado) const;
   std::vector<Punto> concreto() const;       ///< concrete of drop and basin: 17 points
   std::vector<Punto> canal() const;          ///< lining of the upstream canal: 6 points
   std::vector<Punto> canalAbajo() const;     ///< lining of the downstream canal: 5 points
@@ -59,6 +61,7 @@ class GeometriaVertical {
 
  private:
   std::array<AnchoEn, 8> anchos(double xEscalon) const;
+  void trazarSuperficie(Trazo& trazo, DesignState& estado) const;
   void trazarNapa(Trazo& trazo, double recorrido, bool deVuelta, double sobre) const;
 
   Valores v;

@@ -5,6 +5,7 @@
 #include "dibujo/cotas.h"
 #include "dibujo/geometria_vertical.h"
 #include "dibujo/rotulos.h"
+#include "poza/reglas_bloques.h"
 
 // Where the labels and dimensions of the vertical drop stand: the window paints them and the CAD export sends them.
 
@@ -20,5 +21,8 @@ CadenaCotas cadenaSeccion(const GeometriaVertical& g);
 std::vector<CotaAltura> alturasAcotadas(const GeometriaVertical& g);
 /// Half widths between the tops of the walls in plan.
 std::vector<AnchoEn> anchosAcotados(const GeometriaVertical& g);
+
+/// Distance of the obstacles from the face, in the plan between axis and lower wall.
+Segmento distanciaObstaculos(const GeometriaVertical& g, const ObstaculosCaida& o, double eje);
 
 }  // namespace calvento

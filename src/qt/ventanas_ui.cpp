@@ -68,6 +68,8 @@ constexpr std::array ventanas_ui = {
     VentanaUi{"Form7", Puesto::hija, construir<Ui::Form7>},
     VentanaUi{"Form26", Puesto::hija, construir<Ui::Form26>},
     VentanaUi{"Form12", Puesto::hija, construir<Ui::MarcoExportar>},
+    VentanaUi{"Form9", Puesto::hija, construir<Ui::MarcoExportar>},
+    VentanaUi{"Form18", Puesto::hija, construir<Ui::MarcoExportar>},
 };
 
 }  // namespace

@@ -3,10 +3,8 @@
 #include <gtest/gtest.h>
 #include <map>
 
-#include "apoyo/dialogos_guion.h"
-#include "apoyo/navegador_mudo.h"
-#include "cad/cad_grabado.h"
 #include "cad/form12.h"
+#include "cad/mesa_exportar.h"
 #include "dibujo/estado_rapida.h"
 #include "dibujo/figura_rapida.h"
 #include "dibujo/planta.h"
@@ -16,51 +14,14 @@ namespace {
 
 using Clase = CadGrabado::Clase;
 
-struct MesaExportar {
-  explicit MesaExportar(int numTramos = 1) : estado(rapidaDeMano(numTramos)) {
+struct MesaRapida : MesaExportar<Form12, Form2> {
+  explicit MesaRapida(int numTramos = 1) : MesaExportar(rapidaDeMano(numTramos), navegador) {
     estado.progresivaFinPoza = 1034.875;
-    cad.avance = [this] { return f.osProgress1.Value.valor(); };
-    f.osProgress1.alCambiar = [this] {
-      if (f.osProgress1.Visible && (avances.empty() || avances.back() != f.osProgress1.Value.valor()))
-        avances.push_back(f.osProgress1.Value);
-    };
   }
-  void exportar() { disparar(f.Command3.Click); }
-
-  DialogosGuion dialogos;
-  NavegadorMudo navegador;
-  DesignState estado;
-  Form2 form2{navegador};
-  CadGrabado cad;
-  Form12 f{estado, form2, dialogos, navegador, cad};
-  std::vector<double> avances;
 };
 
-using Contornos = std::vector<std::vector<Punto>>;
-
-std::vector<Punto> enEstaciones(std::vector<Punto> puntos, double inicio) {
-  for (Punto& p : puntos) p.x += inicio;
-  return puntos;
-}
-
-/// Outlines that a canvas holds, as station and elevation.
-Contornos contornos(const Lienzo& lienzo, double inicio) {
-  Contornos r;
-  for (const Primitiva& p : lienzo.primitivas()) {
-    if (const auto* a = std::get_if<PrimPoligono>(&p)) r.push_back(enEstaciones(a->puntos, inicio));
-    if (const auto* a = std::get_if<PrimPolilinea>(&p)) r.push_back(enEstaciones(a->puntos, inicio));
-  }
-  return r;
-}
-
-Contornos puntosDe(const std::vector<CadGrabado::Entidad>& entidades) {
-  Contornos r;
-  for (const auto& e : entidades) r.push_back(e.puntos);
-  return r;
-}
-
 TEST(ExportarRapida, AsksForConnectionAndLayersBeforeItSends) {
-  MesaExportar m;
+  MesaRapida m;
   m.exportar();
   EXPECT_EQ(m.cad.llamadas,
             (std::vector<std::string>{"obtener", "visible 1", "capa RAS 1", "capa CANAL 7", "capa GRID 8",
@@ -70,7 +31,7 @@ TEST(ExportarRapida, AsksForConnectionAndLayersBeforeItSends) {
 }
 
 TEST(ExportarRapida, GridIsInWholeMetresWithItsEdgesTwice) {
-  MesaExportar m;
+  MesaRapida m;
   m.exportar();
   // stations 1000 - 4 - 5 to 1034.875 + 3 + 5, elevations 102.75 and 110 to whole metres and one metre more
   const auto lineas = m.cad.de("GRID", Clase::linea);
@@ -95,7 +56,7 @@ TEST(ExportarRapida, GridIsInWholeMetresWithItsEdgesTwice) {
 }
 
 TEST(ExportarRapida, ProgressGoesByTheGridAndThenByTheParts) {
-  MesaExportar m;
+  MesaRapida m;
   m.exportar();
   const std::vector<double> esperados = {0,                                                         // bar shown
                                          0,    3.3,  6.7,  10,   13.3, 16.7, 20,   23.3, 26.7, 30,  // nine metres
@@ -111,16 +72,12 @@ TEST(ExportarRapida, ProgressGoesByTheGridAndThenByTheParts) {
 TEST(ExportarRapida, OutlinesAreThoseOfTheCanvasInTheirOrder) {
   for (const int tramos : {1, 2, 3}) {
     SCOPED_TRACE(tramos);
-    MesaExportar m(tramos);
+    MesaRapida m(tramos);
     m.f.Check1.Value = true;
     m.exportar();
     const Planta planta = plantaRapida(m.estado);
     const FiguraRapida figura(m.estado, Real(planta.eje).valor(), Real(planta.anchoMaximo).valor());
-    const auto pintado = [&](void (FiguraRapida::*rutina)(Lienzo&) const) {
-      Lienzo lienzo(863, 431);
-      (figura.*rutina)(lienzo);
-      return contornos(lienzo, 1000);
-    };
+    const auto pintado = [&](void (FiguraRapida::*rutina)(Lienzo&) const) { return contornos(figura, rutina, 1000); };
     const auto planta3 = pintado(&FiguraRapida::PLANTA);  // water and both walls
     auto lineas = pintado(&FiguraRapida::DIBUJACANAL);    // top of lining, six edges of the bed, energy line
     ASSERT_EQ(lineas.size(), 8u);
@@ -150,7 +107,7 @@ TEST(ExportarRapida, OutlinesAreThoseOfTheCanvasInTheirOrder) {
 }
 
 TEST(ExportarRapida, LabelsTellStationElevationAndSlope) {
-  MesaExportar m(3);
+  MesaRapida m(3);
   m.f.Text12.Text = "0.2";
   m.exportar();
   std::map<std::string, CadGrabado::Entidad> textos;
@@ -182,7 +139,7 @@ TEST(ExportarRapida, LabelsTellStationElevationAndSlope) {
 }
 
 TEST(ExportarRapida, DimensionsMeasureTheStretches) {
-  MesaExportar m(2);
+  MesaRapida m(2);
   m.exportar();
   const auto cotas = m.cad.de("TEXT", Clase::cota);
   ASSERT_EQ(cotas.size(), 1u + 7 + 5 + 5 + 6);
@@ -206,7 +163,7 @@ TEST(ExportarRapida, DimensionsMeasureTheStretches) {
 }
 
 TEST(ExportarRapida, WhatIsNotThereHasNoDimension) {
-  MesaExportar m;
+  MesaRapida m;
   m.estado.longTransEntrada = 0;
   m.estado.longTransSalida = 0;
   m.exportar();
@@ -216,7 +173,7 @@ TEST(ExportarRapida, WhatIsNotThereHasNoDimension) {
 TEST(ExportarRapida, BlocksFollowTheBasin) {
   for (const auto& [tipo, secciones] :
        std::vector<std::pair<int, std::size_t>>{{0, 0}, {1, 0}, {2, 1}, {3, 2}, {4, 2}, {5, 2}, {6, 0}}) {
-    MesaExportar m;
+    MesaRapida m;
     m.estado.tipoTanque = tipo;
     m.exportar();
     std::size_t fuera = 0;
@@ -226,10 +183,10 @@ TEST(ExportarRapida, BlocksFollowTheBasin) {
         ++fuera;
     EXPECT_EQ(fuera, secciones) << tipo;
   }
-  MesaExportar m;
+  MesaRapida m;
   m.estado.tipoTanque = 2;
-  m.form2.Check1.Value = true;
-  m.form2.Text11.Text = "1";
+  m.parametros.Check1.Value = true;
+  m.parametros.Text11.Text = "1";
   m.exportar();
   // twice y1 is 0.5: the least height of 1 m makes it 2 blocks of 3/7 m
   const auto bloques = m.cad.de("RAS", Clase::polilinea);
@@ -239,7 +196,7 @@ TEST(ExportarRapida, BlocksFollowTheBasin) {
 }
 
 TEST(ExportarRapida, WithoutTheEnergyLineItsLayerStaysEmpty) {
-  MesaExportar m;
+  MesaRapida m;
   m.exportar();
   EXPECT_TRUE(m.cad.de("LGRADIENTE", Clase::polilinea).empty());
   const auto antes = m.cad.entidades.size();
@@ -257,7 +214,7 @@ TEST(ExportarRapida, IntervalsThatDoNotAdvanceEndTheRun) {
                {"1", "-5", "0.15", 30},   {"1", "0.001", "0.15", 30}, {"1e99", "5", "0.15", 0}};
   for (const auto& c : casos) {
     SCOPED_TRACE(std::string(c.vertical) + " " + c.horizontal);
-    MesaExportar m;
+    MesaRapida m;
     m.f.Text10.Text = c.vertical;
     m.f.Text11.Text = c.horizontal;
     m.dialogos.esperaFallo("Problemas con la conexión");
@@ -273,7 +230,7 @@ TEST(ExportarRapida, IntervalsThatDoNotAdvanceEndTheRun) {
 }
 
 TEST(ExportarRapida, AnIntervalWiderThanTheGridLeavesItsEdges) {
-  MesaExportar m;
+  MesaRapida m;
   m.f.Text10.Text = "50";
   m.f.Text11.Text = "500";
   m.exportar();
@@ -282,21 +239,21 @@ TEST(ExportarRapida, AnIntervalWiderThanTheGridLeavesItsEdges) {
 
 TEST(ExportarRapida, TheApplicationMayBeMissing) {
   {
-    MesaExportar m;
+    MesaRapida m;
     m.cad.obtenerFalla = true;
     m.dialogos.esperaFallo("Problemas con la conexión");
     m.exportar();
     EXPECT_EQ(m.cad.llamadas, std::vector<std::string>{"obtener"});
   }
   {
-    MesaExportar m;
+    MesaRapida m;
     m.cad.hayInstancia = false;
     m.dialogos.esperaAviso("no está instalado");
     m.exportar();
     EXPECT_EQ(m.cad.llamadas, (std::vector<std::string>{"obtener", "crear"}));
   }
   {
-    MesaExportar m;
+    MesaRapida m;
     m.cad.hayInstancia = false;
     m.cad.sePuedeCrear = true;
     m.exportar();
@@ -306,7 +263,7 @@ TEST(ExportarRapida, TheApplicationMayBeMissing) {
 }
 
 TEST(ExportarRapida, WhatWasSentBeforeAFailureStaysAndIsKept) {
-  MesaExportar m;
+  MesaRapida m;
   m.cad.fallaEn = 40;
   m.dialogos.esperaFallo("Problemas con la conexión");
   m.exportar();
@@ -314,7 +271,7 @@ TEST(ExportarRapida, WhatWasSentBeforeAFailureStaysAndIsKept) {
   EXPECT_EQ(m.cad.llamadas.back(), "soltar");
   EXPECT_TRUE(m.f.osProgress1.Visible);
 
-  MesaExportar otra;
+  MesaRapida otra;
   otra.cad.soltarFalla = true;
   otra.dialogos.esperaFallo("Problemas con la conexión");
   otra.exportar();
@@ -323,7 +280,7 @@ TEST(ExportarRapida, WhatWasSentBeforeAFailureStaysAndIsKept) {
 }
 
 TEST(ExportarRapida, AHalfComputedRecordSendsWhatCanBePlaced) {
-  MesaExportar m;
+  MesaRapida m;
   m.estado.zRampaEntrada = 0;
   m.estado.zRampaSalida = 0;
   m.estado.perfil.clear();
@@ -331,14 +288,14 @@ TEST(ExportarRapida, AHalfComputedRecordSendsWhatCanBePlaced) {
   for (const auto& e : m.cad.entidades)
     for (const Punto& p : e.puntos) EXPECT_TRUE(std::isfinite(p.x) && std::isfinite(p.y)) << e.capa;
 
-  MesaExportar vacio;
+  MesaRapida vacio;
   vacio.estado = DesignState();
   vacio.dialogos.tolera(DialogosGuion::Clase::fallo);
   vacio.exportar();
 }
 
 TEST(ExportarRapida, WritesOnlyTheOptionsOfTheGridIntoTheRecord) {
-  MesaExportar m;
+  MesaRapida m;
   m.f.Text10.Text = "0.5 m";
   m.f.Text11.Text = "2.5";
   const DesignState antes = m.estado;

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "apoyo/dialogos_guion.h"
+#include "apoyo/navegador_mudo.h"
+#include "cad/cad_grabado.h"
+#include "modelo/design_state.h"
+#include "plataforma/lienzo.h"
+
+namespace calvento {
+
+/// An export window with a CAD application that writes everything down. `avances` are the values that its progress bar
+/// has shown, one behind the other.
+template <class Formulario, class Parametros>
+struct MesaExportar {
+  /// What the parameter window is made of follows the record.
+  template <class... De>
+  explicit MesaExportar(DesignState registro, De&... de) : estado(std::move(registro)), parametros(de...) {
+    cad.avance = [this] { return f.osProgress1.Value.valor(); };
+    f.osProgress1.alCambiar = [this] {
+      if (f.osProgress1.Visible && (avances.empty() || avances.back() != f.osProgress1.Value.valor()))
+        avances.push_back(f.osProgress1.Value);
+    };
+  }
+  void exportar() { disparar(f.Command3.Click); }
+
+  DialogosGuion dialogos;
+  NavegadorMudo navegador;
+  DesignState estado;
+  Parametros parametros;
+  CadGrabado cad;
+  Formulario f{estado, parametros, dialogos, navegador, cad};
+  std::vector<double> avances;
+};
+
+using Contornos = std::vector<std::vector<Punto>>;
+
+/// Outlines that a routine of a figure paints, as station and elevation.
+template <class Figura>
+Contornos contornos(const Figura& figura, void (Figura::*rutina)(Lienzo&) const, double inicio) {
+  Lienzo lienzo(863, 431);
+  (figura.*rutina)(lienzo);
+  Contornos r;
+  for (const Primitiva& p : lienzo.primitivas()) {
+    if (const auto* a = std::get_if<PrimPoligono>(&p)) r.push_back(a->puntos);
+    if (const auto* a = std::get_if<PrimPolilinea>(&p)) r.push_back(a->puntos);
+  }
+  for (auto& contorno : r)
+    for (Punto& p : contorno) p.x += inicio;
+  return r;
+}
+
+inline Contornos puntosDe(const std::vector<CadGrabado::Entidad>& entidades) {
+  Contornos r;
+  for (const auto& e : entidades) r.push_back(e.puntos);
+  return r;
+}
+
+}  // namespace calvento
