@@ -4,6 +4,7 @@
 #include <string>
 
 #include "aplicacion/aplicacion.h"
+#include "plataforma/sin_pantalla.h"
 
 namespace calvento {
 
@@ -15,17 +16,6 @@ class SinCajas : public Dialogos {
   bool pregunta(const std::string&) override { return true; }
   std::optional<std::string> abrirArchivo(const OpcionesArchivo&) override { return {}; }
   std::optional<std::string> guardarArchivo(const OpcionesArchivo&) override { return {}; }
-};
-
-class SinPantalla : public SistemaVentanas {
- public:
-  void presentar(Ventana&) override {}
-  void ocultar(Ventana&) override {}
-  void cerrar(Ventana&) override {}
-  void imprimir(Ventana&) override {}
-  void copiar(Ventana&) override {}
-  void terminar() override {}
-  void despues(std::function<void()> accion) override { accion(); }
 };
 
 /// The program without boxes and windows.

@@ -19,10 +19,6 @@ bool sePuedeLeer(const std::filesystem::path& archivo) {
 
 }  // namespace
 
-void SinPantalla::atender() {
-  for (const auto& accion : std::exchange(pendientes_, {})) accion();
-}
-
 Sesion::Sesion(const Opciones& opciones, std::string archivo)
     : archivo_(std::move(archivo)),
       estructura_(estructuraDe(archivo_)),

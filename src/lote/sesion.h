@@ -7,6 +7,7 @@
 #include "aplicacion/aplicacion.h"
 #include "lote/estructuras.h"
 #include "lote/opciones.h"
+#include "plataforma/sin_pantalla.h"
 #include "plataforma/ventana_datos.h"
 
 namespace calvento::lote {
@@ -48,23 +49,6 @@ class DialogosGrabados : public Dialogos {
 
  private:
   bool respuesta_;
-};
-
-/// A window system without a screen.
-class SinPantalla : public SistemaVentanas {
- public:
-  void presentar(Ventana&) override {}
-  void ocultar(Ventana&) override {}
-  void cerrar(Ventana&) override {}
-  void imprimir(Ventana&) override {}
-  void copiar(Ventana&) override {}
-  void terminar() override {}
-  void despues(std::function<void()> accion) override { pendientes_.push_back(std::move(accion)); }
-  /// Runs what waits for the end of the running event.
-  void atender();
-
- private:
-  std::vector<std::function<void()>> pendientes_;
 };
 
 /// One project, opened and calculated in a program of its own, as if that had just been started: what a project gives
