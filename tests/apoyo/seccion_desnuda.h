@@ -28,4 +28,29 @@ double cero(double a, double c, F f) {
   return (a + c) / 2;
 }
 
+struct FinDeMarcha {
+  double y, perdida;
+};
+/// Depth and loss of energy, m, at the end of a reach of a steep canal with depth y at its head, by a fine integration
+/// of the gradually varied flow dE/dx = S - Sf; lengths are horizontal.
+inline FinDeMarcha marchaFina(double y, double L, double Q, double b, double z, double n, double S) {
+  constexpr int pasos = 400000;
+  const double dx = L / pasos;
+  double perdida = 0;
+  for (int i = 0; i < pasos; ++i) {
+    const double A = area(b, z, y), Sf = friccion(Q, b, z, n, y) * std::hypot(1, S);
+    perdida += Sf * dx;
+    y += dx * (S - Sf) / (1 - Q * Q * (b + 2 * z * y) / (9.81 * A * A * A));
+  }
+  return {y, perdida};
+}
+/// Critical depth of a rectangle.
+inline double critico(double Q, double b) { return std::cbrt(Q * Q / (b * b * 9.81)); }
+/// The fast depth that has the energy E in a rectangle, its velocity head counted `factor` times.
+inline double tiranteRapido(double Q, double b, double E, double factor = 1) {
+  double y = 0;
+  for (int i = 0; i < 300; ++i) y = Q / (b * std::sqrt(19.62 * (E - y) / factor));
+  return y;
+}
+
 }  // namespace calvento::desnuda

@@ -78,30 +78,12 @@ TEST_P(Reportes, DeRegistrosAlAzar) {
   const Form2 form2{navegador};
   DesignState e;
   const std::pair<const char*, std::function<void()>> todos[] = {
-      {"Form11",
-       [&] {
-         Form11{e, navegador};
-       }},
-      {"Form6",
-       [&] {
-         Form6{e, navegador};
-       }},
-      {"Form8",
-       [&] {
-         Form8{e, navegador};
-       }},
-      {"Form13",
-       [&] {
-         Form13{e, form2, dialogos, navegador};
-       }},
-      {"Form7",
-       [&] {
-         Form7{e, form2, dialogos, navegador};
-       }},
-      {"Form26",
-       [&] {
-         Form26{e, navegador};
-       }},
+      {"Form11", [&] { Form11(e, navegador); }},
+      {"Form6", [&] { Form6(e, navegador); }},
+      {"Form8", [&] { Form8(e, navegador); }},
+      {"Form13", [&] { Form13(e, form2, dialogos, navegador); }},
+      {"Form7", [&] { Form7(e, form2, dialogos, navegador); }},
+      {"Form26", [&] { Form26(e, navegador); }},
   };
   std::map<std::string, int> abiertos;
   double peor = 0;

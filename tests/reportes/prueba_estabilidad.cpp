@@ -1,10 +1,8 @@
-#include <array>
 #include <cmath>
 #include <gtest/gtest.h>
 
 #include "apoyo/navegador_mudo.h"
-#include "comun/numeros.h"
-#include "hidraulica/marcha.h"
+#include "apoyo/seccion_desnuda.h"
 #include "reportes/estabilidad.h"
 #include "reportes/form6.h"
 
@@ -14,15 +12,8 @@ namespace {
 /// A rectangular chute 1.2 m wide, 40 m long at 1:4, from 1+000 on.
 DesignState rapida() {
   DesignState e;
-  e.Q = 2.4;
-  e.progresivaInicio = 1000;
-  e.bRapida = 1.2;
-  e.nRapida = 0.014;
-  e.numTramos = 1;
-  e.sTramo1 = 0.25;
-  e.cotaInicio = 110;
-  e.cotaFin = 100;
-  e.longRapida = 40;
+  e.Q = 2.4, e.progresivaInicio = 1000, e.bRapida = 1.2, e.nRapida = 0.014, e.numTramos = 1, e.sTramo1 = 0.25;
+  e.cotaInicio = 110, e.cotaFin = 100, e.longRapida = 40;
   return e;
 }
 
@@ -50,39 +41,23 @@ TEST(NumerosDeOndas, ElFactorDeFormaMultiplicaSuUltimoTermino) {
   EXPECT_NEAR(n.Nv.valor(), 4.0 / 3 * (2 + 0.5 * std::sqrt(2)) / (1 + std::sqrt(2)), 1e-6);
 }
 
-TEST(NumerosDeOndas, SinDistanciaPerdidaNiAnchoFallan) {
-  EXPECT_THROW(rectangulo(1, 1, 1, 0, 1), FalloAritmetico);
-  EXPECT_THROW(rectangulo(1, 1, 1, 10, 0), FalloAritmetico);
-  EXPECT_THROW(rectangulo(0, 1, 1, 10, 1), FalloAritmetico);
-}
-
 TEST(NumerosDeOndas, SobreLaLineaEsInestable) {
-  const double M = 0.5;
-  const double linea = 9.201 * M + 1.106;
+  const double M = 0.5, linea = 9.201 * M + 1.106;
   EXPECT_STREQ(claseFlujo({linea, M}), "Flujo Inestable y Pulsátil");
   EXPECT_STREQ(claseFlujo({std::nextafter(linea, 0), M}), "Flujo Estable");
 }
 
-TEST(TablaEstabilidad, TitulosYPrimeraFila) {
-  Rejilla t;
-  tablaEstabilidad(t, rapida());
-  const std::array<std::array<const char*, 10>, 3> esperado = {{
-      {"ESTACION", "Q=2.4(M³/S)", "Q=2.4(M³/S)", "TIPO DE", "Q=1.2(M³/S)", "Q=1.2(M³/S)", "TIPO DE", "Q=0.48(M³/S)",
-       "Q=0.48(M³/S)", "TIPO DE"},
-      {"( Km+m )", "Nv", "M", "REGIMEN", "Nv", "M", "REGIMEN", "Nv", "M", "REGIMEN"},
-      {"1+000.00", "", "", "", "", "", "", "", "", ""},
-  }};
-  ASSERT_EQ(t.columnas(), 10);
-  for (int f = 0; f < 3; ++f)
-    for (int c = 0; c < 10; ++c)
-      EXPECT_EQ(t.texto(f, c), esperado[static_cast<std::size_t>(f)][static_cast<std::size_t>(c)]) << f << " " << c;
-  EXPECT_TRUE(t.unirTitulos);
-}
-
-TEST(TablaEstabilidad, VeinteEstacionesConUnoYConTresTramos) {
+TEST(TablaEstabilidad, TitulosYVeinteEstacionesConUnoYConTresTramos) {
   DesignState e = rapida();
   Rejilla t;
   tablaEstabilidad(t, e);
+  std::string filas;
+  for (int f = 0; f < 3; ++f)
+    for (int c = 0; c < t.columnas(); ++c) filas += t.texto(f, c) + (c < 9 ? "|" : "\n");
+  EXPECT_EQ(filas,
+            "ESTACION|Q=2.4(M³/S)|Q=2.4(M³/S)|TIPO DE|Q=1.2(M³/S)|Q=1.2(M³/S)|TIPO DE|Q=0.48(M³/S)|Q=0.48(M³/S)|"
+            "TIPO DE\n( Km+m )|Nv|M|REGIMEN|Nv|M|REGIMEN|Nv|M|REGIMEN\n1+000.00|||||||||\n");
+  EXPECT_TRUE(t.unirTitulos);
   ASSERT_EQ(t.filas(), 24);
   EXPECT_EQ(t.texto(3, 0), "1+000.40");
   EXPECT_EQ(t.texto(22, 0), "1+038.40") << "station 96 of 100";
@@ -98,37 +73,19 @@ TEST(TablaEstabilidad, VeinteEstacionesConUnoYConTresTramos) {
   EXPECT_EQ(t.texto(22, 0), "1+038.88") << "station 286: the 86th of the third reach of 8 m";
 }
 
-/// Energy lost between the head of the chute and a distance, by a fine integration of the gradually varied flow
-/// dE/dx = -Sf in a rectangle, independent of the steps of the program.
-double energiaPerdida(const DesignState& e, double Q, double hasta) {
-  const double b = Real(e.bRapida).valor(), n = Real(e.nRapida).valor(), S = Real(e.sTramo1).valor();
-  double y = std::cbrt(Q * Q / (b * b * 9.81)) * 0.999, perdida = 0;
-  const int pasos = 2000000;
-  const double dx = hasta / pasos;
-  for (int i = 0; i < pasos; ++i) {
-    const double v = Q / (b * y), R = b * y / (b + 2 * y);
-    const double Sf = std::pow(n * v / std::pow(R, 2.0 / 3), 2) * std::sqrt(1 + S * S);
-    perdida += Sf * dx;
-    y += dx * (S - Sf) / (1 - v * v / (9.81 * y));
-  }
-  return perdida;
-}
-
 TEST(TablaEstabilidad, LaPerdidaConcuerdaConUnaIntegracionFina) {
-  // M = v² / (g hf cos θ), with v from the same fine integration: compared on the head loss it contains
-  const DesignState e = rapida();
+  // M = v² / (g hf cos θ), compared on the head loss it contains
   Rejilla t;
-  tablaEstabilidad(t, e);
-  for (const int tercio : {0, 1, 2}) {
-    const double Q = 2.4 * std::array{1.0, 0.5, 0.2}[static_cast<std::size_t>(tercio)];
-    const double hf = energiaPerdida(e, Q, 40);
+  tablaEstabilidad(t, rapida());
+  int columna = 2;
+  for (const double Q : {2.4, 1.2, 0.48}) {
+    const double yc = desnuda::critico(Q, 1.2);
+    const double hf = desnuda::marchaFina(0.999 * yc, 40, Q, 1.2, 0, 0.014, 0.25).perdida;
     // the energy at the end gives the depth there
-    const double H0 = 110 + 1.5 * std::cbrt(Q * Q / (1.44 * 9.81));
-    double y = 0.01;
-    for (int i = 0; i < 200; ++i) y = Q / (1.2 * std::sqrt(19.62 * (H0 - hf - 100 - y)));
-    const double v = Q / (1.2 * y), coseno = 40 / std::hypot(40, hf);
-    const double M = v * v / (9.81 * hf * coseno);
-    EXPECT_NEAR(std::stod(t.texto(23, 2 + 3 * tercio)), M, 0.01 * M) << Q;
+    const double v = Q / (1.2 * desnuda::tiranteRapido(Q, 1.2, 10 + 1.5 * yc - hf));
+    const double M = v * v / (9.81 * hf) * std::hypot(40, hf) / 40;
+    EXPECT_NEAR(std::stod(t.texto(23, columna)), M, 0.01 * M) << Q;
+    columna += 3;
   }
 }
 
@@ -142,6 +99,9 @@ TEST(TablaEstabilidad, SinTramosOSinCanalLaVentanaNoSeAbre) {
   e.sTramo1 = 0;
   EXPECT_THROW(Form6(e, navegador), FalloAritmetico);
   EXPECT_THROW(Form6(DesignState(), navegador), FalloAritmetico);
+  EXPECT_THROW(rectangulo(1, 1, 1, 0, 1), FalloAritmetico) << "no distance";
+  EXPECT_THROW(rectangulo(1, 1, 1, 10, 0), FalloAritmetico) << "no loss";
+  EXPECT_THROW(rectangulo(0, 1, 1, 10, 1), FalloAritmetico) << "no width";
 }
 
 }  // namespace

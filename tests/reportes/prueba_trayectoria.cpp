@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "apoyo/navegador_mudo.h"
-#include "comun/numeros.h"
 #include "reportes/form8.h"
 
 namespace calvento {
@@ -11,81 +10,55 @@ namespace {
 /// A trajectory y = -0.3 x - 0.05 x² from 100 m on.
 DesignState trayectoria(Real X) {
   DesignState e;
-  e.trayB = -0.3;
-  e.trayA = -0.05;
-  e.xTrayectoria = X;
-  e.cotaFin = 100;
-  e.cotaTrayectoria = 97.5;
+  e.trayB = -0.3, e.trayA = -0.05, e.xTrayectoria = X, e.cotaFin = 100, e.cotaTrayectoria = 97.5;
   return e;
 }
 
-std::vector<std::string> columna(const Rejilla& t, int c) {
-  std::vector<std::string> textos;
-  for (int f = 1; f < t.filas() && !t.texto(f, 0).empty(); ++f) textos.push_back(t.texto(f, c));
-  return textos;
-}
-
-Rejilla tabla(Real X) {
+/// The rows of the table with a number.
+std::vector<std::string> tabla(Real X) {
   Rejilla t;
   tablaTrayectoria(t, trayectoria(X));
-  return t;
-}
-
-TEST(TablaTrayectoria, FilasYUltimaConLaElevacionGuardada) {
-  const Rejilla t = tabla(1.12);
   EXPECT_EQ(t.filas(), 50);
   EXPECT_EQ(t.texto(0, 3), "Elevación(m)");
-  const auto x = columna(t, 1);
-  ASSERT_EQ(x.size(), 13U);
-  EXPECT_EQ(x[0], "0.00");
-  EXPECT_EQ(x[11], "1.10");
-  EXPECT_EQ(x[12], "1.12");
-  EXPECT_EQ(columna(t, 0).back(), "13");
-  // -0.3 - 0.05 at 1 m
-  EXPECT_EQ(columna(t, 2)[10], "-0.350");
-  EXPECT_EQ(columna(t, 3)[10], "99.650");
-  // -0.336 - 0.06272 at the end; its elevation is not 100 less that
-  EXPECT_EQ(columna(t, 2)[12], "-0.399");
-  EXPECT_EQ(columna(t, 3)[12], "97.500");
+  std::vector<std::string> filas;
+  for (int f = 1; f < t.filas() && !t.texto(f, 0).empty(); ++f)
+    filas.push_back(t.texto(f, 0) + "|" + t.texto(f, 1) + "|" + t.texto(f, 2) + "|" + t.texto(f, 3));
+  return filas;
 }
 
-TEST(TablaTrayectoria, ElPasoVaConLaLongitud) {
+TEST(TablaTrayectoria, FilasYPasoSegunLaLongitud) {
   const struct {
     double X;
-    const char* segunda;
     std::size_t filas;
+    const char *una,
+        *ultima;  ///< row 2 and the last one, whose elevation is the stored one whatever the parabola gives
   } casos[] = {
-      {1.5, "0.10", 17},  // sixteen steps, and the end twice
-      {1.51, "0.25", 8}, {3.75, "0.25", 17}, {3.76, "0.50", 9},
-      {7.5, "0.50", 17}, {7.51, "1.00", 9},  {47.9, "1.00", 49},
+      {1.12, 13, "2|0.10|-0.031|99.970", "13|1.12|-0.399|97.500"},  // 0.336 + 0.06272
+      {1.5, 17, "2|0.10|-0.031|99.970", "17|1.50|-0.563|97.500"},   // sixteen steps, and the end twice
+      {1.51, 8, "2|0.25|-0.078|99.922", "8|1.51|-0.567|97.500"},
+      {3.75, 17, "2|0.25|-0.078|99.922", "17|3.75|-1.828|97.500"},
+      {3.76, 9, "2|0.50|-0.163|99.838", "9|3.76|-1.835|97.500"},
+      {7.5, 17, "2|0.50|-0.163|99.838", "17|7.50|-5.063|97.500"},
+      {7.51, 9, "2|1.00|-0.350|99.650", "9|7.51|-5.073|97.500"},
+      {47.9, 49, "2|1.00|-0.350|99.650", "49|47.90|-129.091|97.500"},
+      {0, 2, "2|0.00|0.000|97.500", "2|0.00|0.000|97.500"},
   };
   for (const auto& c : casos) {
-    const auto x = columna(tabla(c.X), 1);
-    EXPECT_EQ(x.size(), c.filas) << c.X;
-    EXPECT_EQ(x[1], c.segunda) << c.X;
+    const auto filas = tabla(c.X);
+    EXPECT_EQ(filas.size(), c.filas) << c.X;
+    EXPECT_EQ(filas[1], c.una) << c.X;
+    EXPECT_EQ(filas.back(), c.ultima) << c.X;
   }
-}
-
-TEST(TablaTrayectoria, UnFinalSobreUnPasoEstaDosVeces) {
-  for (int i = 1; i <= 15; ++i) {
-    const auto x = columna(tabla(i * 0.1), 1);
-    ASSERT_EQ(x.size(), static_cast<std::size_t>(i) + 2) << i;
-    EXPECT_EQ(x[x.size() - 1], x[x.size() - 2]) << i;
-  }
+  EXPECT_EQ(tabla(-2), (std::vector<std::string>{"1|-2.00|0.400|97.500"}));
+  // every end on a step is there twice
+  for (int i = 1; i <= 15; ++i) EXPECT_EQ(tabla(i * 0.1).size(), static_cast<std::size_t>(i) + 2) << i;
 }
 
 TEST(TablaTrayectoria, CuarentaYOchoMetrosNoCaben) {
   NavegadorMudo navegador;
-  EXPECT_NO_THROW(Form8(trayectoria(47.99), navegador));
-  for (const double X : {48.0, 1e6, 3e38}) EXPECT_THROW(Form8(trayectoria(X), navegador), FalloAritmetico) << X;
-}
-
-TEST(TablaTrayectoria, SinLongitudHayUnaFilaDeMas) {
-  EXPECT_EQ(columna(tabla(0), 1), (std::vector<std::string>{"0.00", "0.00"}));
-  EXPECT_EQ(columna(tabla(-2), 1), (std::vector<std::string>{"-2.00"}));
-  NavegadorMudo navegador;
-  for (const double X : {0.0, -2.0}) EXPECT_NO_THROW(Form8(trayectoria(X), navegador)) << X;
-  EXPECT_THROW(Form8(trayectoria(-3e30), navegador), FalloAritmetico) << "no ruler is that long";
+  for (const double X : {47.99, 0.0, -2.0}) EXPECT_NO_THROW(Form8(trayectoria(X), navegador)) << X;
+  // neither does the table hold more, nor is a ruler so long
+  for (const double X : {48.0, 1e6, 3e38, -3e30}) EXPECT_THROW(Form8(trayectoria(X), navegador), FalloAritmetico) << X;
 }
 
 template <class P>
