@@ -33,7 +33,7 @@ TEST(Botones, CadaVentanaSeImprimeSeCopiaYSeCierra) {
   DesignState e;
   for (const CampoSingle& c : camposSingle()) e.*c.campo = 1;
   e.perfil.assign(100, {1, 1, 1, 1, 1});
-  e.numTramos = 1, e.cotaInicio = 20, e.cotaFin = 10, e.sTramo1 = 0.1, e.tipoTanque = 1;
+  e.numTramos = 1, e.cotaInicio = 20, e.cotaFin = 10, e.sTramo1 = 0.1, e.nRapida = 0.014, e.tipoTanque = 1;
   pulsarTodo(Form14(e, dialogos, navegador), navegador);
   pulsarTodo(Form15(e, dialogos, navegador), navegador);
   pulsarTodo(Form23(e, form2, navegador), navegador);
