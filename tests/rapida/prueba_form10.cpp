@@ -2,23 +2,25 @@
 
 #include "apoyo/mesa_rapida.h"
 #include "apoyo/publicados.h"
+#include "apoyo/textos.h"
 #include "hidraulica/solvers.h"
 
 namespace calvento {
 namespace {
 
+constexpr const char* subcritico = "FLUJO SUB CRITICO EN EL CANAL DE LA RÁPIDA!!!, VERIFIQUE SUS DATOS";
+constexpr const char* supercritico =
+    "FLUJO SUPER CRITICO EN CANAL AGUAS ARRIBA; DESEA INICIAR EL CALCULO CON Yn EN EL CANAL DE LA RÁPIDA?";
+
 std::string panel(MesaRapida& m) { return m.f.sbStatusBar.Panel1; }
 
 TEST(ChuteWindow, AtItsLoad) {
   MesaRapida m;
+  esperarTextos(m.f, "Text17=1 Text21=2 Text22=1.5 Text26=10 Text5= Label41= Label35= Label27=");
   EXPECT_EQ(m.f.Caption.valor(), "Rápida");
-  EXPECT_EQ(m.f.Text17.Text.valor() + "|" + m.f.Text21.Text.valor() + "|" + m.f.Text22.Text.valor() + "|" +
-                m.f.Text26.Text.valor() + "|" + m.f.Text5.Text.valor(),
-            "1|2|1.5|10|");
   EXPECT_EQ(m.resultadosAbiertos(), 0);
   EXPECT_TRUE(m.estado.esNuevo);
   EXPECT_EQ(m.form2.Label30.Caption.valor(), "En canal rápida:");
-  EXPECT_EQ(m.f.Label41.Caption.valor() + m.f.Label35.Caption.valor() + m.f.Label27.Caption.valor(), "");
 }
 
 TEST(ChuteWindow, HintsWhileTyping) {
@@ -35,10 +37,11 @@ TEST(ChuteWindow, HintsWhileTyping) {
     campo->GotFocus();
     EXPECT_EQ(panel(m), "Ancho de poza calculado (B): 2.295");
   }
-  m.f.Text21.MouseMove();
-  EXPECT_EQ(m.f.Text21.ToolTipText.valor() + "|" + panel(m), "1.5 < Z1 < 2|1.5 <= Z1 <= 2");
-  m.f.Text22.MouseMove();
-  EXPECT_EQ(m.f.Text22.ToolTipText.valor() + "|" + panel(m), "0 < Z2 < 2|0 < Z2 < 2");
+  for (const auto& [campo, dice] :
+       {std::pair(&m.f.Text21, "1.5 < Z1 < 2|1.5 <= Z1 <= 2"), {&m.f.Text22, "0 < Z2 < 2|0 < Z2 < 2"}}) {
+    campo->MouseMove();
+    EXPECT_EQ(campo->ToolTipText.valor() + "|" + panel(m), dice);
+  }
 
   // the published control section: canal 1.80 m, chute 1.20 m
   m.poner({{"Text6", "1.80"}, {"Text7", "1.5"}, {"Text8", "0.03"}, {"Text9", "0.0005"}, {"Text10", "1.2"}});
@@ -128,27 +131,23 @@ TEST(ChuteWindow, SuggestedWidths) {
 
 TEST(ChuteWindow, NumberOfReachesOpensItsFields) {
   MesaRapida m;
-  const struct {
-    std::vector<TextBox*> campos;
-    std::vector<Label*> rotulos;
-  } tramos[] = {{{&m.f.Text15, &m.f.Text3}, {&m.f.Label36, &m.f.Label81, &m.f.Label82, &m.f.Label76, &m.f.Label75}},
-                {{&m.f.Text14, &m.f.Text27}, {&m.f.Label79, &m.f.Label78, &m.f.Label80, &m.f.Label45, &m.f.Label46}}};
   const auto comprobar = [&](int n) {
-    for (int t = 2; t <= 3; ++t) {
-      const auto& grupo = tramos[t - 2];
-      for (const TextBox* c : grupo.campos) {
-        EXPECT_EQ(c->Enabled, n >= t) << n;
-        EXPECT_EQ(c->BackColor.valor().valor, n >= t ? -2147483643 : -2147483633) << n;
-      }
-      for (const Label* r : grupo.rotulos) EXPECT_EQ(r->ForeColor.valor().valor, n >= t ? -2147483630 : 8421504) << n;
+    for (const auto& [tramo, campo] :
+         {std::pair(2, &m.f.Text15), {2, &m.f.Text3}, {3, &m.f.Text14}, {3, &m.f.Text27}}) {
+      EXPECT_EQ(campo->Enabled, n >= tramo) << n;
+      EXPECT_EQ(campo->BackColor.valor().valor, n >= tramo ? -2147483643 : -2147483633) << n;
     }
+    for (const char* rotulo : {"236", "281", "282", "276", "275", "379", "378", "380", "345", "346"})  // reach, number
+      EXPECT_EQ(m.f.buscar<Label>(std::string("Label") + (rotulo + 1))->ForeColor.valor().valor,
+                n >= rotulo[0] - '0' ? -2147483630 : 8421504)
+          << n << rotulo;
   };
   comprobar(1);
   m.f.Text3.Text = "417";
   for (const int n : {2, 3, 3}) {  // the arrows stop at 3
     m.f.UpDown1.subir();
-    EXPECT_EQ(m.f.Text17.Text.valor() + "=" + std::to_string(m.estado.numTramos),
-              std::to_string(n) + "=" + std::to_string(n));
+    EXPECT_EQ(m.f.Text17.Text.valor(), std::to_string(n));
+    EXPECT_EQ(m.estado.numTramos, n);
     comprobar(n);
   }
   m.f.Text17.Text = "7";
@@ -171,18 +170,17 @@ TEST(ChuteWindow, New) {
   const double y2 = m.valor(&DesignState::y2);
   m.f.Text17.Text = "3";
   m.f.mnnuevo.Click();
-  for (const Control* c : m.f.controles()) {
-    const auto* campo = dynamic_cast<const TextBox*>(c);
-    if (campo == nullptr) continue;
-    const std::string n = campo->nombre();
-    EXPECT_EQ(campo->Text.valor(), n == "Text21" ? "1.8" : n == "Text22" ? "1.2" : n == "Text17" ? "1" : "") << n;
-  }
+  std::string llenos;
+  for (const Control* c : m.f.controles())
+    if (const auto* campo = dynamic_cast<const TextBox*>(c); campo != nullptr && !campo->Text.valor().empty())
+      llenos += " " + campo->nombre();
+  EXPECT_EQ(llenos, " Text21 Text22 Text17");
+  esperarTextos(m.f, "Text17=1 Text21=1.8 Text22=1.2 Label41=");
   EXPECT_EQ(m.estado.numTramos, 1);
   EXPECT_FALSE(m.f.Text3.Enabled);
   EXPECT_EQ(m.resultadosAbiertos(), 0);
   EXPECT_TRUE(m.estado.esNuevo);
   EXPECT_TRUE(m.f.Frame1.Visible);
-  EXPECT_EQ(m.f.Label41.Caption.valor(), "");
   for (int fila = 1; fila < 7; ++fila) {
     EXPECT_EQ(m.f.Grid1.tabla.texto(fila, 2) + m.f.Grid1.tabla.texto(fila, 3), "");
     EXPECT_EQ(m.f.Grid1.tabla.fondo(fila, 0), color::celda);
@@ -194,15 +192,9 @@ TEST(ChuteWindow, New) {
 
 TEST(ChuteWindow, MenusAndToolbarGoToTheirWindows) {
   MesaRapida m;
-  m.f.mngrafico.Click();
-  m.f.mntperfil.Click();
-  m.f.mnst.Click();
-  m.f.mntrayectoria.Click();
-  m.f.mntanque.Click();
-  m.f.mnformondas.Click();
-  m.f.mnparam.Click();
-  m.f.mnimprimir.Click();
-  m.f.mncopiar.Click();
+  for (const char* menu : {"mngrafico", "mntperfil", "mnst", "mntrayectoria", "mntanque", "mnformondas", "mnparam",
+                           "mnimprimir", "mncopiar"})
+    m.f.buscar<Menu>(menu)->Click();
   m.f.Toolbar1.ButtonClick("imprimir");
   m.f.Toolbar1.ButtonClick("Copiar");
   m.f.mncerrar.Click();
@@ -233,75 +225,48 @@ TEST(ChuteWindow, WhatEachStopLeaves) {
       "ahogamiento anguloTransicion ynArriba hArriba vArriba frArriba ycControl sobreelevacion";
   const std::string control = datos + " espejoArriba espejoRapida longTransEntrada";
   // the control depth counts with the canal: the preview writes it too
+  using Clase = DialogosGuion::Clase;
+  const char* segundo = "Ingrese datos 2do tramo canal de la rápida";
+  const char* tercero = "Ingrese cotas y pendientes de los tramos del canal de la rápida";
   const struct {
-    const char* que;
     Datos cambio;
-    DialogosGuion::Caja caja;
-    std::string escritos;
+    Clase caja;
+    const char* dice;
+    std::string escritos;  ///< empty: not looked at
     int menus;
     std::size_t filas;
   } casos[] = {
-      {"subcritical chute",
-       {{"Text13", "0.0001"}},
-       {DialogosGuion::Clase::aviso, "FLUJO SUB CRITICO EN EL CANAL DE LA RÁPIDA!!!, VERIFIQUE SUS DATOS"},
-       datos,
-       7,
-       3},
-      {"supercritical canal, No",
-       {{"Text9", "0.05"}},
-       {DialogosGuion::Clase::pregunta,
-        "FLUJO SUPER CRITICO EN CANAL AGUAS ARRIBA; DESEA INICIAR EL CALCULO CON Yn EN EL CANAL DE LA RÁPIDA?"},
-       "",
-       0,
-       3},
-      {"no slope of reach 2",
-       {{"Text17", "2"}, {"Text15", ""}},
-       {DialogosGuion::Clase::aviso, "Ingrese datos 2do tramo canal de la rápida"},
-       control,
-       7,
-       3},
-      {"no elevation of reach 2",
-       {{"Text17", "2"}, {"Text3", ""}},
-       {DialogosGuion::Clase::aviso, "Ingrese datos 2do tramo canal de la rápida"},
-       control,
-       7,
-       3},
-      {"no elevation of reach 3",
-       {{"Text27", ""}},
-       {DialogosGuion::Clase::aviso, "Ingrese cotas y pendientes de los tramos del canal de la rápida"},
-       control,
-       7,
-       3},
-      {"no slope of reach 3",
-       {{"Text14", ""}},
-       {DialogosGuion::Clase::aviso, "Ingrese cotas y pendientes de los tramos del canal de la rápida"},
-       control,
-       7,
-       3},
-      {"flat reach 3", {{"Text14", "0"}}, {DialogosGuion::Clase::fallo, falloDivision}, "", 7, 300},
-      {"flat canal behind", {{"Text20", "0"}}, {DialogosGuion::Clase::fallo, falloDivision}, "", 7, 300},
+      {{{"Text13", "0.0001"}}, Clase::aviso, subcritico, datos, 7, 3},
+      {{{"Text9", "0.05"}}, Clase::pregunta, supercritico, "", 0, 3},
+      {{{"Text17", "2"}, {"Text15", ""}}, Clase::aviso, segundo, control, 7, 3},
+      {{{"Text17", "2"}, {"Text3", ""}}, Clase::aviso, segundo, control, 7, 3},
+      {{{"Text27", ""}}, Clase::aviso, tercero, control, 7, 3},
+      {{{"Text14", ""}}, Clase::aviso, tercero, control, 7, 3},
+      {{{"Text14", "0"}}, Clase::fallo, falloDivision, "", 7, 300},
+      {{{"Text20", "0"}}, Clase::fallo, falloDivision, "", 7, 300},
   };
   for (const auto& c : casos) {
+    SCOPED_TRACE(c.dice);
     MesaRapida m;
     m.poner(rapidaDeTresTramos());
     m.f.Grid1.pulsar(4);
     m.dialogos.esperaAviso(avisoAnchoDeTresTramos);
     m.f.Command3.Click();
-    EXPECT_TRUE(m.f.calculado()) << c.que;
-    EXPECT_EQ(m.resultadosAbiertos(), 7) << c.que;
+    EXPECT_TRUE(m.f.calculado());
+    EXPECT_EQ(m.resultadosAbiertos(), 7);
     m.poner(c.cambio);
-    if (c.caja.clase == DialogosGuion::Clase::aviso) m.dialogos.esperaAviso(c.caja.texto);
-    if (c.caja.clase == DialogosGuion::Clase::fallo) m.dialogos.esperaFallo(c.caja.texto);
-    if (c.caja.clase == DialogosGuion::Clase::pregunta) m.dialogos.responde(false, c.caja.texto);
+    if (c.caja == Clase::aviso) m.dialogos.esperaAviso(c.dice);
+    if (c.caja == Clase::fallo) m.dialogos.esperaFallo(c.dice);
+    if (c.caja == Clase::pregunta) m.dialogos.responde(false, c.dice);
     m.estado.perfil.assign(3, FilaPerfil{});
     const std::string s = camposEscritos(m.estado, [&] { m.f.Command3.Click(); });
     if (!c.escritos.empty()) {
-      EXPECT_EQ(s, enOrden(c.escritos)) << c.que;
+      EXPECT_EQ(s, enOrden(c.escritos));
     }
-    EXPECT_EQ((" " + s + " ").find(" y1 "), std::string::npos) << c.que;
-    EXPECT_FALSE(m.f.calculado()) << c.que;
-    EXPECT_EQ(m.resultadosAbiertos(), c.menus) << c.que;
-    EXPECT_EQ(m.estado.perfil.size(), c.filas) << c.que;
+    EXPECT_EQ((" " + s + " ").find(" y1 "), std::string::npos);
+    EXPECT_FALSE(m.f.calculado());
+    EXPECT_EQ(m.resultadosAbiertos(), c.menus);
+    EXPECT_EQ(m.estado.perfil.size(), c.filas);
   }
 }
 
@@ -311,7 +276,7 @@ TEST(ChuteWindow, EmptyDischargeAndReachesOutsideOneToThree) {
     m.poner(rapidaDeUnTramo());
     m.f.Text5.Text = caudal;
     // still water is the first thing that is noticed, before any division by it
-    m.dialogos.esperaAviso("FLUJO SUB CRITICO EN EL CANAL DE LA RÁPIDA!!!, VERIFIQUE SUS DATOS");
+    m.dialogos.esperaAviso(subcritico);
     m.f.Command3.Click();
   }
   for (const char* tramos : {"0", "4", "-2", "", "x"}) {
@@ -332,11 +297,8 @@ TEST(ChuteWindow, EmptyDischargeAndReachesOutsideOneToThree) {
   m.f.Text17.Text = "40000";
   m.dialogos.esperaFallo("Desbordamiento: el número es demasiado grande: Ingresar datos correctamente, verificar");
   m.f.Command3.Click();
-}
-
-TEST(ChuteWindow, WithoutAChosenTypeItCalculatesAndAsksForOne) {
-  MesaRapida m;
-  m.poner(rapidaDeUnTramo());
+  m.f.Text17.Text = "1";
+  // without a chosen type it calculates and asks for one
   m.dialogos.esperaAviso(avisoSinTanque);
   m.f.Command3.Click();
   EXPECT_TRUE(m.f.calculado());

@@ -19,7 +19,7 @@ namespace {
 /// How many records of each kind; the environment variable CALVENTO_AZAR asks for more.
 int cuantos() {
   const char* pedido = std::getenv("CALVENTO_AZAR");
-  return pedido != nullptr ? std::max(1, std::atoi(pedido)) : 200;
+  return pedido != nullptr ? std::max(100, std::atoi(pedido)) : 200;
 }
 
 /// Seconds of processor time that one report may take.
@@ -36,13 +36,11 @@ double entre(Azar& azar, double a, double b) { return a + (b - a) * (static_cast
 DesignState razonable(Azar& azar) {
   DesignState e;
   for (const CampoSingle& c : camposSingle()) e.*c.campo = entre(azar, 0.1, 3);
-  for (Single DesignState::*s : {&DesignState::sArriba, &DesignState::sAbajo}) e.*s = entre(azar, 0.0003, 0.03);
-  for (Single DesignState::*s : {&DesignState::sTramo1, &DesignState::sTramo2, &DesignState::sTramo3})
-    e.*s = entre(azar, 0.03, 0.6);
-  for (Single DesignState::*n : {&DesignState::nArriba, &DesignState::nAbajo, &DesignState::nRapida})
-    e.*n = entre(azar, 0.01, 0.03);
-  double cota = entre(azar, 20, 4000);
   using D = DesignState;
+  for (const auto s : {&D::sArriba, &D::sAbajo}) e.*s = entre(azar, 0.0003, 0.03);
+  for (const auto s : {&D::sTramo1, &D::sTramo2, &D::sTramo3}) e.*s = entre(azar, 0.03, 0.6);
+  for (const auto n : {&D::nArriba, &D::nAbajo, &D::nRapida}) e.*n = entre(azar, 0.01, 0.03);
+  double cota = entre(azar, 20, 4000);
   for (Single D::*c : {&D::cotaInicio, &D::cotaTramo2, &D::cotaTramo3, &D::cotaFin, &D::cotaTrayectoria, &D::cotaAbajo,
                        &D::cotaPoza}) {
     e.*c = cota;
@@ -86,7 +84,6 @@ TEST_P(Reportes, DeRegistrosAlAzar) {
       {"Form26", [&] { Form26(e, navegador); }},
   };
   std::map<std::string, int> abiertos;
-  double peor = 0;
   for (int i = 0; i < cuantos(); ++i) {
     Azar azar(static_cast<unsigned>(i));
     e = GetParam()(azar);
@@ -94,14 +91,10 @@ TEST_P(Reportes, DeRegistrosAlAzar) {
     for (const auto& [nombre, abrir] : todos) {
       const std::clock_t antes = std::clock();
       if (pasandoFallos(abrir)) ++abiertos[nombre];
-      const double segundos = static_cast<double>(std::clock() - antes) / CLOCKS_PER_SEC;
-      EXPECT_LT(segundos, limite) << nombre << " of record " << i;
-      peor = std::max(peor, segundos);
+      EXPECT_LT(static_cast<double>(std::clock() - antes) / CLOCKS_PER_SEC, limite) << nombre << " of record " << i;
     }
     if (HasFailure()) break;
   }
-  RecordProperty("peor_ms", static_cast<int>(peor * 1000));
-  if (cuantos() < 100) return;
   EXPECT_EQ(abiertos["Form13"], cuantos()) << "it opens whatever its data";
   for (const auto& [nombre, abrir] : todos)
     EXPECT_GT(abiertos[nombre], cuantos() / 20) << nombre << " hardly ever opened: the records say nothing of it";

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 
 #include "apoyo/navegador_mudo.h"
@@ -76,19 +77,18 @@ TEST(GraficoTrayectoria, CurvaRotulosYEscala) {
 
   const auto lineas = primitivas<PrimLinea>(l);
   ASSERT_EQ(lineas.size(), 11U);
+  const auto esperar = [&](std::size_t i, Punto a, Punto b, Color color, EstiloLinea estilo) {
+    EXPECT_NEAR(std::hypot(lineas[i].a.x - a.x, lineas[i].a.y - a.y), 0, 1e-6) << i;
+    EXPECT_NEAR(std::hypot(lineas[i].b.x - b.x, lineas[i].b.y - b.y), 0, 1e-6) << i;
+    EXPECT_EQ(lineas[i].pluma.color, color) << i;
+    EXPECT_EQ(lineas[i].pluma.estilo, estilo) << i;
+  };
+  const auto punto = [](double x) { return Punto{x, -0.3 * x - 0.05 * x * x}; };
   for (std::size_t i = 0; i < 10; ++i) {
-    EXPECT_NEAR(lineas[i].a.x, 0.4 * static_cast<double>(i), 1e-9);
-    EXPECT_NEAR(lineas[i].b.x - lineas[i].a.x, 0.4, 1e-9);
-    EXPECT_EQ(lineas[i].pluma.color, (Color{16512}));
-    EXPECT_EQ(lineas[i].pluma.estilo, EstiloLinea::solida);
-    if (i > 0) {
-      EXPECT_EQ(lineas[i].a, lineas[i - 1].b);
-    }
+    const double x = 0.4 * static_cast<double>(i);
+    esperar(i, punto(x), punto(x + 0.4), Color{16512}, EstiloLinea::solida);
   }
-  EXPECT_NEAR(lineas[9].b.y, -2, 1e-6);  // -1.2 - 0.8
-  EXPECT_NEAR(lineas[10].a.y, -2, 1e-6);
-  EXPECT_NEAR(lineas[10].b.x, 4, 1e-6);
-  EXPECT_EQ(lineas[10].pluma.estilo, EstiloLinea::puntos);
+  esperar(10, {0, -2}, {4, -2}, color::negro, EstiloLinea::puntos);
 
   const auto textos = primitivas<PrimTexto>(l);
   ASSERT_EQ(textos.size(), 3U);
