@@ -15,6 +15,7 @@ void abrirReporte(benchmark::State& estado, const char* ventana) {
     Ventana* reporte = aplicacion.cargar(ventana);
     benchmark::DoNotOptimize(reporte);
     aplicacion.descargar(*reporte);
+    muda.pantalla.atender();
   }
 }
 BENCHMARK_CAPTURE(abrirReporte, Form11, "Form11")->Unit(benchmark::kMicrosecond);
