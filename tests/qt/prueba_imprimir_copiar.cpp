@@ -8,9 +8,9 @@
 #include <QMainWindow>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QProcess>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -19,6 +19,7 @@
 #include "qt/cadena.h"
 #include "qt/impresion.h"
 #include "qt/programa.h"
+#include "salida_de.h"
 
 namespace calvento {
 namespace {
@@ -36,26 +37,9 @@ class ConDiseno : public testing::Test {
   QTemporaryDir carpeta;
 };
 
-/// Numbers that pdfinfo tells: pages, width and height in points.
-struct HojaPdf {
-  int paginas = 0;
-  double ancho = 0, alto = 0;
-};
-HojaPdf leerPdf(const QString& archivo) {
-  QProcess p;
-  p.start("pdfinfo", {archivo});
-  p.waitForFinished();
-  HojaPdf h;
-  for (const QString& linea : QString::fromUtf8(p.readAllStandardOutput()).split('\n')) {
-    const QStringList partes = linea.split(' ', Qt::SkipEmptyParts);
-    if (linea.startsWith("Pages:")) h.paginas = partes[1].toInt();
-    if (linea.startsWith("Page size:")) h.ancho = partes[2].toDouble(), h.alto = partes[4].toDouble();
-  }
-  return h;
-}
-
 TEST_F(ConDiseno, EveryWindowIsPrintedOnOnePageAndCopiedWhole) {
-  if (QStandardPaths::findExecutable("pdfinfo").isEmpty()) GTEST_SKIP() << "pdfinfo is not installed";
+  for (const char* necesario : {"pdfinfo", "pdftotext"})
+    if (QStandardPaths::findExecutable(necesario).isEmpty()) GTEST_SKIP() << necesario << " is not installed";
   dialogos.tolera(DialogosGuion::Clase::fallo);  // a window of another structure may have nothing to show
   int vistas = 0;
   for (const VentanaUi& ui : ventanasUi()) {
@@ -73,15 +57,23 @@ TEST_F(ConDiseno, EveryWindowIsPrintedOnOnePageAndCopiedWhole) {
     pdf.setOutputFormat(QPrinter::PdfFormat);
     pdf.setOutputFileName(archivo);
     ASSERT_TRUE(imprimirVista(*vista, pdf));
-    const HojaPdf hoja = leerPdf(archivo);
-    EXPECT_EQ(hoja.paginas, 1);
+    const QString hoja = salidaDe("pdfinfo", {archivo});
+    EXPECT_TRUE(QRegularExpression("Pages: +1\n").match(hoja).hasMatch()) << deQt(hoja);
+    const auto medidas = QRegularExpression(R"(Page size: +([\d.]+) x ([\d.]+))").match(hoja);
     if (ui.nombre != "frmMain") {
       const int alto = vista->height() - (vista->menuWidget() != nullptr ? vista->menuWidget()->height() : 0);
-      EXPECT_EQ(hoja.ancho > hoja.alto, vista->width() > alto) << "the page lies as the window does";
+      EXPECT_EQ(medidas.captured(1).toDouble() > medidas.captured(2).toDouble(), vista->width() > alto)
+          << "the page lies as the window does";
+    }
+    if (ui.nombre == "Form15") {
+      EXPECT_TRUE(salidaDe("pdftotext", {"-layout", archivo, "-"}).contains("Relación, y2/y1:")) << "no real text";
+      pdf.setOutputFileName(carpeta.filePath("no/hay/hoja.pdf"));
+      EXPECT_FALSE(imprimirVista(*vista, pdf));
     }
 
     QGuiApplication::clipboard()->clear();
     programa.aplicacion.copiar(*ventana);
+    EXPECT_TRUE(QGuiApplication::clipboard()->image().isNull()) << "copied before the menu could close";
     QTest::qWait(0);
     const QImage copia = QGuiApplication::clipboard()->image();
     EXPECT_EQ(copia.size() / copia.devicePixelRatio(), programa.sistema.marco(ui.nombre)->size());
@@ -105,19 +97,14 @@ TEST_F(ConDiseno, WithoutAPrinterOneShortMessageIsAll) {
 }
 
 /// Notes what a progress bar showed each time it was painted.
-class Testigo : public QObject {
- public:
-  explicit Testigo(QProgressBar& barra) : barra_(barra) { barra.installEventFilter(this); }
-  std::set<int> pintados;
-
- protected:
+struct Testigo : QObject {
+  explicit Testigo(QProgressBar& b) : barra(b) { barra.installEventFilter(this); }
   bool eventFilter(QObject*, QEvent* evento) override {
-    if (evento->type() == QEvent::Paint) pintados.insert(barra_.value());
+    if (evento->type() == QEvent::Paint) pintados.insert(barra.value());
     return false;
   }
-
- private:
-  QProgressBar& barra_;
+  QProgressBar& barra;
+  std::set<int> pintados;
 };
 
 TEST_F(ConDiseno, TheExportWindowShowsItsProgressWhileItRuns) {
