@@ -7,6 +7,7 @@
 #include "plataforma/lienzo.h"
 #include "plataforma/medidas.h"
 #include "qt/pintor.h"
+#include "qt/recorte.h"
 
 namespace calvento {
 namespace {
@@ -164,6 +165,13 @@ TEST(Pintor, LoLejanoNoEstorba) {
   EXPECT_EQ(i.pixelColor(200, 150), QColor(0, 255, 255));
   EXPECT_EQ(i.pixelColor(200, 80), QColor(Qt::white));
   EXPECT_GT(noBlancos(i, QRect(0, 48, 400, 4)), 200);
+}
+
+TEST(Recorte, LineasYPoligonosEnSuMarco) {
+  const QRectF marco(0, 0, 10, 10);
+  EXPECT_EQ(recortar(QLineF(-5, 5, 15, 5), marco), QLineF(0, 5, 10, 5));
+  EXPECT_TRUE(recortar(QLineF(11, 0, 20, 9), marco).isNull());
+  EXPECT_EQ(recortar(QPolygonF({{-5, -5}, {20, -5}, {20, 5}, {-5, 5}}), marco).boundingRect(), QRectF(0, 0, 10, 5));
 }
 
 }  // namespace
