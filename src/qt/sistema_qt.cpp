@@ -10,6 +10,7 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPointer>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QScreen>
@@ -151,7 +152,9 @@ void SistemaQt::presentar(Ventana& ventana) {
   marco->isMinimized() ? marco->showNormal() : marco->show();
   traerAlFrente(marco);
   // a menu that closes gives the focus back to its own window, which would come forward again
-  QTimer::singleShot(0, marco, [this, marco] { traerAlFrente(marco); });
+  QTimer::singleShot(0, this, [this, m = QPointer<QWidget>(marco)] {
+    if (m) traerAlFrente(m);
+  });
   if (nueva) enfocarPrimero(*abierta->vista);
 }
 
