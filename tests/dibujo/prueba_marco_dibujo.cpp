@@ -1,11 +1,9 @@
-#include <algorithm>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
 #include "apoyo/navegador_mudo.h"
 #include "dibujo/marco_dibujo.h"
-#include "plataforma/medidas.h"
 
 namespace calvento {
 namespace {
@@ -23,14 +21,9 @@ class MarcoPrueba : public MarcoDibujo {
     const Rutina falla{"falla", [](Lienzo&) { fallar(Motivo::divisionPorCero); }};
     const Rutina lineas{"lineas", [](Lienzo& l) { l.Line({0, 100}, {1, 1}); }};
     const Rutina rotulo{"rotulo", [](Lienzo& l) { l.Print("P.C."); }};
-    abrir({{{"vistaTodo",
-             [] {
-               return Vista{0, 100, 0, 10};
-             }},
-            {"vistaTanque",
-             [] {
-               return Vista{2, 4, 90, 100};
-             }},
+    const auto fija = [](Vista v) { return [v] { return v; }; };
+    abrir({{{"vistaTodo", fija({0, 100, 0, 10})},
+            {"vistaTanque", fija({2, 4, 90, 100})},
             {"vistaControl", []() -> Vista { fallar(Motivo::desbordamiento); }}},
            {agua, falla, lineas, rotulo},
            {agua, falla, rotulo, lineas},
@@ -44,9 +37,9 @@ struct Marco : testing::Test {
   DesignState estado;
   NavegadorMudo navegador;
 
-  static std::size_t lugarDelRotulo(const Lienzo& l) {
+  static std::size_t lugarDelRotulo(const Lienzo& l, const char* rotulo = "P.C.") {
     for (std::size_t i = 0; i < l.primitivas().size(); ++i)
-      if (const auto* t = std::get_if<PrimTexto>(&l.primitivas()[i]); t != nullptr && t->texto == "P.C.") return i;
+      if (const auto* t = std::get_if<PrimTexto>(&l.primitivas()[i]); t != nullptr && t->texto == rotulo) return i;
     return 999;
   }
 };
@@ -63,6 +56,10 @@ TEST_F(Marco, SeAbreEnElTanqueConSuArchivoComoTitulo) {
 
 TEST_F(Marco, DosOrdenesDeDibujoYLoQueFallaNoEstorba) {
   MarcoPrueba m(estado, navegador);
+  const EscalaLienzo antes = m.GRAF.lienzo.escala();
+  EXPECT_TRUE(m.ver("vistaControl"));
+  EXPECT_EQ(m.GRAF.lienzo.escala(), antes) << "a view that cannot be computed leaves the former one";
+  EXPECT_FALSE(m.ver("vistaPlanta")) << "this structure has none";
   EXPECT_EQ(lugarDelRotulo(m.GRAF.lienzo), 1U) << "label before lines in a view of a part";
   m.Toolbar1.ButtonClick("todo");
   EXPECT_EQ(lugarDelRotulo(m.GRAF.lienzo), 2U) << "lines before label in the whole";
@@ -86,14 +83,6 @@ TEST_F(Marco, BotonesDeAumento) {
   EXPECT_NEAR(m.GRAF.lienzo.ScaleWidth() / 865 / (-m.GRAF.lienzo.ScaleHeight() / 433), 1, 1e-6);
 }
 
-TEST_F(Marco, UnaVistaQueNoSePuedeCalcularDejaLaDeAntes) {
-  MarcoPrueba m(estado, navegador);
-  const EscalaLienzo antes = m.GRAF.lienzo.escala();
-  EXPECT_TRUE(m.ver("vistaControl"));
-  EXPECT_EQ(m.GRAF.lienzo.escala(), antes);
-  EXPECT_FALSE(m.ver("vistaPlanta")) << "this structure has none";
-}
-
 TEST_F(Marco, CajaDeAumento) {
   estado.progresivaInicio = 100;
   MarcoPrueba m(estado, navegador);
@@ -115,6 +104,7 @@ TEST_F(Marco, CajaDeAumento) {
     EXPECT_FALSE(m.GRAF.recuadro.visible);
     EXPECT_EQ(m.GRAF.lienzo.escala() != antes, c.vale) << c.b.x;
   }
+  EXPECT_EQ(m.Label5.Caption.valor(), "(103.500,94.000)") << "the pointer as station and elevation";
   EXPECT_EQ(m.dibujos, dibujos + 1);
   EXPECT_EQ(lugarDelRotulo(m.GRAF.lienzo), 2U);
   // 3.5 to 5 by 94 to 97: taller than the canvas, so Y stands and X is widened about 4.25
@@ -122,14 +112,6 @@ TEST_F(Marco, CajaDeAumento) {
   EXPECT_FLOAT_EQ(estado.vistaY2.valor(), 97);
   EXPECT_NEAR((estado.vistaX1 + estado.vistaX2).valor() / 2, 4.25, 1e-5);
   EXPECT_NEAR((estado.vistaX2 - estado.vistaX1).valor(), 3 * 865.0 / 433, 1e-5);
-}
-
-TEST_F(Marco, ElPunteroSeLeeComoProgresivaYElevacion) {
-  estado.progresivaInicio = 100;
-  MarcoPrueba m(estado, navegador);
-  m.GRAF.MouseMoveEn({-2.5, 91.25});
-  EXPECT_EQ(m.Label5.Caption.valor(), "(97.500,91.250)");
-  EXPECT_FALSE(m.GRAF.recuadro.visible);
 }
 
 TEST_F(Marco, UnaVentanaMayorGuardaLaVistaSinDeformarla) {
@@ -159,13 +141,9 @@ TEST_F(Marco, LaLeyendaQuedaFijaEnLaEsquina) {
   for (const int veces : {1, 2}) {
     m.GRAF.Resize(865 * veces, 433 * veces);
     const Lienzo& l = m.GRAF.lienzo;
-    const auto& p = l.primitivas();
-    const auto tirante = std::find_if(p.begin(), p.end(), [](const Primitiva& q) {
-      const auto* t = std::get_if<PrimTexto>(&q);
-      return t != nullptr && t->texto == "Tirante";
-    });
-    ASSERT_NE(tirante, p.end());
-    const Punto en = std::get<PrimTexto>(*tirante).en;
+    const std::size_t tirante = lugarDelRotulo(l, "Tirante");
+    ASSERT_LT(tirante, l.primitivas().size());
+    const Punto en = std::get<PrimTexto>(l.primitivas()[tirante]).en;
     EXPECT_NEAR((en.x - l.ScaleLeft()) / l.ScaleWidth() * 865, 813, 0.01);
     EXPECT_NEAR((en.y - l.ScaleTop()) / l.ScaleHeight() * 433, 31, 0.01);
   }

@@ -3,26 +3,12 @@
 
 #include "apoyo/navegador_mudo.h"
 #include "dibujo/figura_seccion.h"
+#include "dibujo/geometria_poza.h"
+#include "dibujo/puntos.h"
 #include "dibujo/ventana_secciones.h"
 
 namespace calvento {
 namespace {
-
-template <class P>
-std::vector<P> primitivas(const Lienzo& l) {
-  std::vector<P> elegidas;
-  for (const Primitiva& p : l.primitivas())
-    if (const auto* e = std::get_if<P>(&p)) elegidas.push_back(*e);
-  return elegidas;
-}
-
-void esperarPuntos(const std::vector<Punto>& puntos, const std::vector<Punto>& esperados) {
-  ASSERT_EQ(puntos.size(), esperados.size());
-  for (std::size_t i = 0; i < puntos.size(); ++i) {
-    EXPECT_NEAR(puntos[i].x, esperados[i].x, 1e-4) << i;
-    EXPECT_NEAR(puntos[i].y, esperados[i].y, 1e-4) << i;
-  }
-}
 
 struct Hoja {
   Lienzo P{451, 275}, x{515, 41}, y{65, 275};
@@ -33,40 +19,25 @@ TEST(FiguraSeccion, TrapecioPuntoPorPunto) {
   // b 2, z 1, H 1.5 at 100 m with 1 m of water: sides at 45°, sin 0.70711, tan of half the angle 0.41421
   Hoja h;
   h.dibujar({100, 1.5, 1, 2, 1}, 3);
-  const auto poligonos = primitivas<PrimPoligono>(h.P);
+  const auto poligonos = pintadas<PrimPoligono>(h.P);
   ASSERT_EQ(poligonos.size(), 2U);
-  esperarPuntos(poligonos[0].puntos, {{-1, 100}, {-2, 101}, {2, 101}, {1, 100}, {-1, 100}});
+  comparar(poligonos[0].puntos, {{0, -1, 100}, {1, -2, 101}, {2, 2, 101}, {3, 1, 100}}, "water", 5);
   EXPECT_EQ(poligonos[0].relleno.color, color::cianClaro);
-  EXPECT_EQ(poligonos[0].relleno.estilo, EstiloRelleno::solido);
-  EXPECT_EQ(poligonos[0].pluma.color, color::azulClaro);
-  esperarPuntos(poligonos[1].puntos, {{-1, 100},
-                                      {-2.5, 101.5},
-                                      {-2.64142, 101.5},
-                                      {-1.04142, 99.9},
-                                      {1.04142, 99.9},
-                                      {2.64142, 101.5},
-                                      {2.5, 101.5},
-                                      {1, 100},
-                                      {-1, 100}});
-  EXPECT_EQ(poligonos[1].relleno.color, color::grisClaro);
   EXPECT_EQ(poligonos[1].relleno.estilo, EstiloRelleno::cruzadoDiagonal);
+  const auto& muro = poligonos[1].puntos;
+  comparar(muro, {{0, -1, 100}, {1, -2.5, 101.5}, {6, 2.5, 101.5}, {7, 1, 100}}, "lining", 9);
+  for (const auto& [i, x, y] : {Esperado{2, -2.64142, 101.5}, {3, -1.04142, 99.9}, {4, 1.04142, 99.9}})
+    EXPECT_LT(std::hypot(muro[i].x - x, muro[i].y - y), 1e-4) << i;  // pi is cut to 3.1415
 
   // 2.5 + 0.14142 + 0.1 + half of 400 twips at 1,000 to the metre
   EXPECT_NEAR(h.P.ScaleLeft(), -2.94142, 1e-4);
-  EXPECT_NEAR(h.P.ScaleWidth(), 2 * 2.94142, 1e-4);
   EXPECT_NEAR(h.P.ScaleTop(), 100.75 + 2.94142 / 1.64, 1e-4);
   EXPECT_NEAR(h.P.ScaleHeight(), -2 * 2.94142 / 1.64, 1e-4);
 
-  const auto cajas = primitivas<PrimCaja>(h.P);
+  const auto cajas = pintadas<PrimCaja>(h.P);
   ASSERT_EQ(cajas.size(), 4U);
-  EXPECT_NEAR(cajas[1].a.x, -2.51, 1e-6);
-  EXPECT_NEAR(cajas[1].b.y, 101.51, 1e-6);
-  EXPECT_EQ(cajas[1].relleno.estilo, EstiloRelleno::solido);
-
-  const auto textos = primitivas<PrimTexto>(h.P);
-  ASSERT_EQ(textos.size(), 2U);
-  EXPECT_EQ(textos[0].texto, "5.000");
-  EXPECT_EQ(textos[1].texto, "1.500");
+  EXPECT_TRUE(cerca(cajas[1].a, {-2.51, 101.49}) && cerca(cajas[1].b, {-2.49, 101.51}));
+  EXPECT_EQ(rotulados(pintadas<PrimTexto>(h.P)), "|5.000|1.500|");
 }
 
 TEST(FiguraSeccion, NivelCriticoYCotas) {
@@ -74,168 +45,115 @@ TEST(FiguraSeccion, NivelCriticoYCotas) {
   Hoja h;
   h.dibujar({50, 1, 0.9, 2, 0}, 3);
   std::vector<PrimLinea> rojas, negras;
-  for (const PrimLinea& l : primitivas<PrimLinea>(h.P)) (l.pluma.color == color::rojo ? rojas : negras).push_back(l);
+  for (const PrimLinea& l : pintadas<PrimLinea>(h.P)) (l.pluma.color == color::rojo ? rojas : negras).push_back(l);
   ASSERT_EQ(rojas.size(), 1U);
   EXPECT_NEAR(rojas[0].a.y, 50.61215, 1e-3);
-  EXPECT_NEAR(rojas[0].a.x, -1, 1e-9);
-  EXPECT_NEAR(rojas[0].b.x, 1, 1e-9);
+  EXPECT_EQ(rojas[0].b, (Punto{1, rojas[0].a.y}));
   EXPECT_EQ(rojas[0].pluma.estilo, EstiloLinea::guionPunto);
 
   // width: two heads of two strokes, two ticks, two lines; height: the same
   ASSERT_EQ(negras.size(), 16U);
-  const auto hay = [&](Punto a, Punto b) {
-    for (const PrimLinea& l : negras) {
-      const auto igual = [](Punto p, Punto q) { return std::hypot(p.x - q.x, p.y - q.y) < 1e-6; };
-      if ((igual(l.a, a) && igual(l.b, b)) || (igual(l.a, b) && igual(l.b, a))) {
-        EXPECT_EQ(l.pluma.estilo, EstiloLinea::solida);
-        return true;
-      }
-    }
-    return false;
-  };
   const double t = 0.025 * std::tan(30 * 3.1415 / 180);
-  EXPECT_TRUE(hay({-1, 51.1}, {-0.975, 51.1 + t}));
-  EXPECT_TRUE(hay({1, 51.1}, {0.975, 51.1 - t}));
-  EXPECT_TRUE(hay({1, 51.05}, {1, 51.15}));
-  EXPECT_TRUE(hay({-1, 51.1}, {-0.2, 51.1})) << "the gap is 400 twips wide";
-  const double x = -1.2;  // lining 0.1 and 0.1 more
-  EXPECT_TRUE(hay({x, 51}, {x + t, 50.975}));
-  EXPECT_TRUE(hay({x, 50}, {x - t, 50.025}));
-  EXPECT_TRUE(hay({x - 0.05, 50}, {x + 0.05, 50}));
-  EXPECT_TRUE(hay({x, 50}, {x, 50.5 - 0.0975})) << "half a line of 195 twips";
+  const double x = -1.2;  // lining 0.1 and 0.1 more; the gaps: 400 twips wide, a line of 195 twips high
+  const Segmento esperadas[] = {{{-1, 51.1}, {-0.975, 51.1 + t}}, {{1, 51.1}, {0.975, 51.1 - t}},
+                                {{1, 51.05}, {1, 51.15}},         {{-1, 51.1}, {-0.2, 51.1}},
+                                {{x, 51}, {x + t, 50.975}},       {{x, 50}, {x - t, 50.025}},
+                                {{x - 0.05, 50}, {x + 0.05, 50}}, {{x, 50}, {x, 50.5 - 0.0975}}};
+  for (const auto& s : esperadas) EXPECT_TRUE(hayLinea(negras, s.a, s.b)) << s.a.x << ' ' << s.a.y << ' ' << s.b.x;
+  for (const PrimLinea& l : negras) EXPECT_EQ(l.pluma.estilo, EstiloLinea::solida);
 }
 
-TEST(FiguraSeccion, AngostaYHondaCabeEnAlto) {
+TEST(FiguraSeccion, CabeEnteraYSinDeformarse) {
   Hoja h;
-  h.dibujar({0, 6, 3, 0.5, 0}, 1);
+  h.dibujar({0, 6, 3, 0.5, 0}, 1);  // narrow and deep
   EXPECT_NEAR(h.P.ScaleWidth(), 2 * 1.64 * 3.2, 1e-9);
   EXPECT_NEAR(h.P.ScaleTop(), 6.2, 1e-9);
   EXPECT_NEAR(h.P.ScaleTop() + h.P.ScaleHeight(), -0.2, 1e-9);
-}
-
-TEST(FiguraSeccion, EnUnLienzoMayorNoSeDeforma) {
-  Hoja h;
   for (const auto& [ancho, alto] : {std::pair{900, 300}, std::pair{400, 800}, std::pair{451, 275}}) {
     h.P.redimensionarSinCrecer(ancho, alto);
     h.dibujar({100, 1.5, 1, 2, 1}, 3);
     EXPECT_NEAR(h.P.ScaleWidth() / ancho, -h.P.ScaleHeight() / alto, 1e-9);
-    EXPECT_GE(h.P.ScaleTop(), 101.5 + 0.15);
-    EXPECT_LE(h.P.ScaleLeft(), -2.75);
-    for (const PrimTexto& t : primitivas<PrimTexto>(h.P)) EXPECT_GE(t.en.x, h.P.ScaleLeft());
+    for (const PrimTexto& t : pintadas<PrimTexto>(h.P)) EXPECT_GE(t.en.x, h.P.ScaleLeft());
   }
 }
 
 TEST(FiguraSeccion, SinTiranteCriticoQuedaElAgua) {
   Hoja h;
   EXPECT_THROW(h.dibujar({0, 1, 0.5, 0, 0}, 1), FalloAritmetico);
-  EXPECT_EQ(primitivas<PrimPoligono>(h.P).size(), 1U);
+  EXPECT_EQ(pintadas<PrimPoligono>(h.P).size(), 1U);
 }
 
 DesignState estado() {
   DesignState e;
   e.Q = 4;
-  e.nRapida = 0.015;
-  e.bRapida = 2;
-  e.zRapida = 0.5;
-  e.sTramo1 = 0.1;
-  e.sTramo2 = 0.2;
-  e.sTramo3 = 0.4;
-  e.hArriba = 1.5;
-  e.hRapida = 1;
-  e.hPoza = 3;
-  e.hAbajo = 1.6;
-  e.bArriba = e.bAbajo = 2.5;
-  e.bPoza = 2.2;
-  e.bEntradaCaida = 1.8;
-  e.bPozaCaida = 2.4;
-  e.zPozaCaida = 0.25;
-  e.longTransVert = 0.3;
-  e.cotaInicio = 60;
-  e.cotaTramo2 = 55;
-  e.cotaTramo3 = 50;
-  e.cotaFin = 40;
-  e.cotaPoza = 36;
-  e.cotaAbajo = 38;
-  e.ynArriba = 1.1;
-  e.ynAbajo = 1.2;
-  e.yFin = 0.8;
-  e.y1 = 0.2;
-  e.y2 = 2;
-  e.frArriba = 0.6;
+  e.nRapida = 0.015, e.bRapida = 2, e.zRapida = 0.5;
+  e.sTramo1 = 0.1, e.sTramo2 = 0.2, e.sTramo3 = 0.4;
+  e.hArriba = 1.5, e.hRapida = 1, e.hPoza = 3, e.hAbajo = 1.6;
+  e.bArriba = e.bAbajo = 2.5, e.bPoza = 2.2;
+  e.bEntradaCaida = 1.8, e.bPozaCaida = 2.4, e.zPozaCaida = 0.25, e.longTransVert = 0.3;
+  e.cotaInicio = 60, e.cotaTramo2 = 55, e.cotaTramo3 = 50, e.cotaFin = 40, e.cotaPoza = 36, e.cotaAbajo = 38;
+  e.ynArriba = 1.1, e.ynAbajo = 1.2, e.yFin = 0.8, e.y1 = 0.2, e.y2 = 2, e.frArriba = 0.6;
   return e;
 }
 
-std::vector<std::string> nombres(const std::vector<SeccionNombrada>& secciones) {
-  std::vector<std::string> n;
-  for (const SeccionNombrada& s : secciones) n.push_back(s.nombre);
+std::string nombres(const std::vector<SeccionNombrada>& secciones) {
+  std::string n;
+  for (const SeccionNombrada& s : secciones) n += (n.empty() ? "" : ", ") + s.nombre;
   return n;
 }
 
-DatosSeccion datos(const std::vector<SeccionNombrada>& secciones, const std::string& nombre) {
-  for (const SeccionNombrada& s : secciones)
-    if (s.nombre == nombre) return s.datos();
-  ADD_FAILURE() << "no " << nombre;
-  return {};
-}
-
-using Lista = std::vector<std::string>;
-
 TEST(ListaSecciones, PorEstructuraYRegimen) {
   DesignState e = estado();
-  const Lista rapida[] = {{},
-                          {"Canal aguas arriba", "Sección de control", "Canal rápida", "Poza", "Canal aguas abajo"},
-                          {"Canal aguas arriba", "Sección de control", "Canal rápida tramo 1", "Canal rápida tramo 2",
-                           "Poza", "Canal aguas abajo"},
-                          {"Canal aguas arriba", "Sección de control", "Canal rápida tramo 1", "Canal rápida tramo 2",
-                           "Canal rápida tramo 3", "Poza", "Canal aguas abajo"}};
+  const std::string cabeza = "Canal aguas arriba, Sección de control, ", pie = "Poza, Canal aguas abajo";
+  const std::string dos = "Canal rápida tramo 1, Canal rápida tramo 2, ";
+  const std::string rapida[] = {"", cabeza + "Canal rápida, " + pie, cabeza + dos + pie,
+                                cabeza + dos + "Canal rápida tramo 3, " + pie};
   for (std::int16_t n = 0; n <= 3; ++n) {
     e.numTramos = n;
     EXPECT_EQ(nombres(seccionesRapida(e)), rapida[n]);
   }
-  EXPECT_EQ(nombres(seccionesInclinada(e)),
-            (Lista{"Canal aguas arriba", "Sección de control", "Canal tramo inclinado", "Poza", "Canal aguas abajo"}));
+  EXPECT_EQ(nombres(seccionesInclinada(e)), cabeza + "Canal tramo inclinado, " + pie);
   e.frArriba = 1.2;
-  EXPECT_EQ(nombres(seccionesInclinada(e)),
-            (Lista{"Canal aguas arriba", "Canal tramo inclinado", "Poza", "Canal aguas abajo"}));
+  EXPECT_EQ(nombres(seccionesInclinada(e)), "Canal aguas arriba, Canal tramo inclinado, " + pie);
   e.frArriba = 1;
-  EXPECT_EQ(nombres(seccionesInclinada(e)), Lista{});
-  EXPECT_EQ(nombres(seccionesVertical(e)),
-            (Lista{"Canal aguas arriba", "Sección de control", "Poza", "Canal aguas abajo"}));
+  EXPECT_EQ(nombres(seccionesInclinada(e)), "");
+  EXPECT_EQ(nombres(seccionesVertical(e)), cabeza + pie);
 }
 
 TEST(ListaSecciones, LosTramosConElTiranteNormalDeSuPendiente) {
   DesignState e = estado();
   const struct {
-    int tramos;
-    const char* nombre;
+    std::int16_t tramos;
+    std::size_t lugar;
     double cota, S;
-  } casos[] = {{1, "Canal rápida", 40, 0.1},         {2, "Canal rápida tramo 1", 55, 0.1},
-               {2, "Canal rápida tramo 2", 50, 0.2}, {3, "Canal rápida tramo 1", 55, 0.1},
-               {3, "Canal rápida tramo 2", 50, 0.2}, {3, "Canal rápida tramo 3", 40, 0.4}};
+  } casos[] = {{1, 2, 40, 0.1}, {2, 2, 55, 0.1}, {2, 3, 50, 0.2}, {3, 2, 55, 0.1}, {3, 3, 50, 0.2}, {3, 4, 40, 0.4}};
   for (const auto& c : casos) {
-    e.numTramos = static_cast<std::int16_t>(c.tramos);
-    const DatosSeccion s = datos(seccionesRapida(e), c.nombre);
-    EXPECT_EQ(s.c.valor(), c.cota) << c.nombre;
+    e.numTramos = c.tramos;
+    const DatosSeccion s = seccionesRapida(e).at(c.lugar).datos();
+    EXPECT_EQ(s.c.valor(), c.cota) << c.tramos;
     EXPECT_EQ(s.H.valor(), 1);
     const double y = s.y.valor(), A = (2 + 0.5 * y) * y, P = 2 + 2 * y * std::sqrt(1.25);
-    EXPECT_NEAR(A * std::pow(A / P, 2.0 / 3) * std::sqrt(c.S) / 0.015, 4, 0.02) << c.nombre;
+    EXPECT_NEAR(A * std::pow(A / P, 2.0 / 3) * std::sqrt(c.S) / 0.015, 4, 0.02) << c.tramos;
   }
 }
 
 TEST(ListaSecciones, LasDeLasCaidas) {
   const DesignState e = estado();
-  const DatosSeccion rampa = datos(seccionesInclinada(e), "Canal tramo inclinado");
-  EXPECT_NEAR(rampa.c.valor(), 38, 1e-6);
-  EXPECT_NEAR(rampa.y.valor(), 0.5, 1e-6);
-  EXPECT_NEAR(rampa.b.valor(), 2.1, 1e-6);
-  const DatosSeccion pozo = datos(seccionesVertical(e), "Poza");
-  EXPECT_NEAR(pozo.H.valor(), 5.5, 1e-6) << "the drop's height and the wall above it";
-  EXPECT_NEAR(pozo.b.valor(), 3, 1e-6);
-  EXPECT_EQ(pozo.z.valor(), 0);
-  const DatosSeccion control = datos(seccionesVertical(e), "Sección de control");
-  EXPECT_NEAR(control.y.valor(), std::cbrt(16 / 3.24 / 9.81), 1e-3);
-  EXPECT_EQ(control.z.valor(), 0);
-  EXPECT_NEAR(datos(seccionesInclinada(e), "Sección de control").z.valor(), 0.25, 1e-9);
+  const auto inclinada = seccionesInclinada(e), vertical = seccionesVertical(e);
+  const struct {
+    DatosSeccion s;
+    double c, H, y, cerca, b, z;  // the solver stops within a thousandth
+  } casos[] = {{inclinada.at(1).datos(), 40, 1.5, 0.76672, 1e-3, 1.8, 0.25},
+               {inclinada.at(2).datos(), 38, 1, 0.5, 1e-6, 2.1, 0.25},
+               {vertical.at(1).datos(), 40, 1.5, std::cbrt(16 / 3.24 / 9.81), 1e-3, 1.8, 0},
+               // the drop's height and the wall above it
+               {vertical.at(2).datos(), 36, 5.5, 2, 1e-6, 3, 0}};
+  for (const auto& k : casos) {
+    const Real son[] = {k.s.c, k.s.H, k.s.b, k.s.z};
+    const double deben[] = {k.c, k.H, k.b, k.z};
+    for (int i = 0; i < 4; ++i) EXPECT_NEAR(son[i].valor(), deben[i], 1e-6) << k.c << ' ' << i;
+    EXPECT_NEAR(k.s.y.valor(), k.y, k.cerca) << k.c;
+  }
 }
 
 TEST(VentanaSecciones, LasFlechasDanLaVuelta) {
@@ -243,21 +161,20 @@ TEST(VentanaSecciones, LasFlechasDanLaVuelta) {
   DesignState e = estado();
   e.numTramos = 1;
   Form19 v(e, navegador);
-  EXPECT_EQ(v.Caption.valor(), "Secciones Transversales");
-  EXPECT_EQ(v.Combo1.Text(), "Canal aguas arriba");
-  const auto ancho = [&] { return primitivas<PrimTexto>(v.P.lienzo).front().texto; };
-  EXPECT_EQ(ancho(), "2.500");
+  const auto esperar = [&](const char* nombre, const char* ancho) {
+    EXPECT_EQ(v.Combo1.Text(), nombre);
+    EXPECT_EQ(pintadas<PrimTexto>(v.P.lienzo).front().texto, ancho) << nombre;
+  };
+  esperar("Canal aguas arriba", "2.500");
   v.Command2.Click();
-  EXPECT_EQ(v.Combo1.Text(), "Canal aguas abajo");
+  esperar("Canal aguas abajo", "2.500");
   v.Command1.Click();
-  EXPECT_EQ(v.Combo1.Text(), "Canal aguas arriba");
   v.Command1.Click();
-  EXPECT_EQ(v.Combo1.Text(), "Sección de control");
-  EXPECT_EQ(ancho(), "3.500");  // 2 + 2 · 0.5 · 1.5
+  esperar("Sección de control", "3.500");  // 2 + 2 · 0.5 · 1.5
   v.Combo1.ListIndex = 3;
-  EXPECT_EQ(ancho(), "2.200");
+  esperar("Poza", "2.200");
   for (const char* clave : {"botonimprimir", "botoncopiar"}) v.Toolbar1.ButtonClick(clave);
-  EXPECT_EQ(navegador.llamadas, (Lista{"imprimir Form19", "copiar Form19"}));
+  EXPECT_EQ(navegador.llamadas, (std::vector<std::string>{"imprimir Form19", "copiar Form19"}));
 }
 
 TEST(VentanaSecciones, SinListaOSinDatosQuedaVacia) {
@@ -265,11 +182,10 @@ TEST(VentanaSecciones, SinListaOSinDatosQuedaVacia) {
   DesignState e = estado();
   e.frArriba = 1;
   Form20 vacia(e, navegador);
-  EXPECT_EQ(vacia.Combo1.ListIndex, -1);
-  EXPECT_TRUE(vacia.P.lienzo.primitivas().empty());
   vacia.Command1.Click();
   vacia.Command2.Click();
   EXPECT_EQ(vacia.Combo1.ListIndex, -1);
+  EXPECT_TRUE(vacia.P.lienzo.primitivas().empty());
 
   const DesignState nada;
   Form24 sinDatos(nada, navegador);

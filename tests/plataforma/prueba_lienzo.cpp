@@ -11,13 +11,6 @@ namespace {
 
 constexpr double infinito = std::numeric_limits<double>::infinity();
 
-TEST(Lienzo, LaEscalaSeLeeComoSePuso) {
-  Lienzo l(865, 433);
-  l.Scale(-5, 110, 12, 101.5);
-  EXPECT_EQ(l.escala(), (EscalaLienzo{-5, 110, 17, -8.5}));
-  EXPECT_LT(l.ScaleHeight(), 0) << "the vertical axis runs upward";
-}
-
 TEST(Lienzo, UnPoligonoNuncaCambiaDeNumeroDePuntos) {
   struct Caso {
     const char* que;
@@ -69,22 +62,23 @@ TEST(Lienzo, CadaPrimitivaGuardaElEstadoDeSuPluma) {
   Lienzo l(10, 10);
   l.ForeColor = color::azulClaro;
   l.DrawStyle = EstiloLinea::guionPunto;
-  l.Line({0, 0}, {1, 1}, color::rojo);
-  l.FillStyle = EstiloRelleno::cruzadoDiagonal;
   l.FillColor = color::grisClaro;
+  l.FillStyle = EstiloRelleno::cruzadoDiagonal;
   l.LineCaja({0, 0}, {1, 1}, color::negro);
   l.Font.angulo = 90;
   l.Print("Est:");
-  l.ForeColor = color::verde;
+  l.ForeColor = l.FillColor = color::verde;
+  l.DrawStyle = EstiloLinea::solida;
   l.Font.angulo = 0;
-  const auto& p = l.primitivas();
-  EXPECT_EQ(std::get<PrimLinea>(p[0]).pluma.color, color::rojo);
-  EXPECT_EQ(std::get<PrimLinea>(p[0]).pluma.estilo, EstiloLinea::guionPunto);
-  EXPECT_EQ(std::get<PrimCaja>(p[1]).relleno.estilo, EstiloRelleno::cruzadoDiagonal);
-  EXPECT_EQ(std::get<PrimCaja>(p[1]).relleno.color, color::grisClaro);
-  EXPECT_EQ(std::get<PrimTexto>(p[2]).color, color::azulClaro);
-  EXPECT_EQ(std::get<PrimTexto>(p[2]).letra.angulo, 90);
-  EXPECT_EQ(std::get<PrimTexto>(p[2]).en, (Punto{1, 1}));
+  const auto& caja = std::get<PrimCaja>(l.primitivas()[0]);
+  EXPECT_EQ(caja.pluma.color, color::negro);
+  EXPECT_EQ(caja.pluma.estilo, EstiloLinea::guionPunto);
+  EXPECT_EQ(caja.relleno.color, color::grisClaro);
+  EXPECT_EQ(caja.relleno.estilo, EstiloRelleno::cruzadoDiagonal);
+  const auto& rotulo = std::get<PrimTexto>(l.primitivas()[1]);
+  EXPECT_EQ(rotulo.color, color::azulClaro);
+  EXPECT_EQ(rotulo.letra.angulo, 90);
+  EXPECT_EQ(rotulo.en, (Punto{1, 1}));
 }
 
 TEST(Medidas, AnchosPublicadosDeLaLetra) {
