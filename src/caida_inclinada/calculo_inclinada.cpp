@@ -148,14 +148,6 @@ void LONGTRANSSALIDA(DesignState& e) {
   calcularTransicionSalida(e, 2 * e.zPozaCaida * e.hPoza + e.bPozaCaida, 2 * e.zAbajo * e.hAbajo + e.bAbajo, true);
 }
 
-void alturas(DesignState& e, const Form2& p) {
-  ponerAltura(e.hAbajo, e.ynAbajo, p.Text8, true);
-  ponerAltura(e.hRapida, (e.yFin + e.y1) / 2, p.Text6, true);
-  ponerAltura(e.hPoza, e.y2, p.Text7, true);
-  // raised to the canal's lining it stays off the grid, unlike in the chute
-  if (e.cotaAbajo + e.hAbajo > e.cotaPoza + e.hPoza) e.hPoza = e.cotaAbajo + e.hAbajo - e.cotaPoza;
-}
-
 void espejos(DesignState& e) {
   e.espejoArriba = 2 * e.hArriba * e.zArriba + e.bArriba;
   e.espejoAbajo = 2 * e.hAbajo * e.zAbajo + e.bAbajo;
@@ -172,7 +164,7 @@ bool calcularInclinada(DesignState& e, const Form2& p, PantallaInclinada& pantal
   if (!sigue) return false;
 
   LONGTRANSENTRADA(e);
-  alturas(e, p);
+  calcularAlturas(e, (e.yFin + e.y1) / 2, {p.Text8, p.Text6, p.Text7});
   LONGTRANSSALIDA(e);
   espejos(e);
   const Real k = razonAhogamiento(e);

@@ -10,6 +10,13 @@ void ponerAltura(Single& altura, Real tirante, const TextBox& bordoLibre, bool e
   if (enRejillaObra) altura = enRejilla(altura);
 }
 
+void calcularAlturas(DesignState& e, Real tiranteRapida, const BordosLibres& bordos) {
+  ponerAltura(e.hAbajo, e.ynAbajo, bordos.abajo, true);
+  ponerAltura(e.hRapida, tiranteRapida, bordos.rapida, true);
+  ponerAltura(e.hPoza, e.y2, bordos.poza, true);
+  if (e.cotaAbajo + e.hAbajo > e.cotaPoza + e.hPoza) e.hPoza = e.cotaAbajo + e.hAbajo - e.cotaPoza;
+}
+
 void calcularCanalArriba(DesignState& e, const TextBox& bordoLibre, bool enRejillaObra) {
   e.ynArriba = YNORMAL(e.Q, e.bArriba, e.zArriba, e.nArriba, e.sArriba);
   ponerAltura(e.hArriba, e.ynArriba, bordoLibre, enRejillaObra);

@@ -13,6 +13,14 @@ namespace calvento {
 /// sum goes into its 4-byte field before the grid is taken.
 void ponerAltura(Single& altura, Real tirante, const TextBox& bordoLibre, bool enRejillaObra);
 
+/// Fields of the freeboards behind the crest.
+struct BordosLibres {
+  const TextBox &abajo, &rapida, &poza;
+};
+/// Lining heights of the downstream canal, of the chute or ramp for its depth, and of the basin, which reaches at least
+/// the canal's lining; that raise stays off the grid here.
+void calcularAlturas(DesignState& estado, Real tiranteRapida, const BordosLibres& bordos);
+
 /// Upstream canal: normal depth, lining height, velocity and Froude number.
 void calcularCanalArriba(DesignState& estado, const TextBox& bordoLibre, bool enRejillaObra);
 

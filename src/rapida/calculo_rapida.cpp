@@ -83,12 +83,9 @@ void trayectoria(DesignState& e, PantallaRapida& pantalla) {
 }
 
 /// The chute's wall takes the freeboard named for the downstream canal and the other way round: they are crossed here
-/// on purpose.
+/// on purpose. A raised basin wall goes to the grid again.
 void alturas(DesignState& e, const Form2& p) {
-  ponerAltura(e.hAbajo, e.ynAbajo, p.Text6, true);
-  ponerAltura(e.hRapida, e.yFin, p.Text8, true);
-  ponerAltura(e.hPoza, e.y2, p.Text7, true);
-  if (e.cotaAbajo + e.hAbajo > e.cotaPoza + e.hPoza) e.hPoza = e.cotaAbajo + e.hAbajo - e.cotaPoza;
+  calcularAlturas(e, e.yFin, {p.Text6, p.Text8, p.Text7});
   e.hPoza = enRejilla(e.hPoza);
 }
 

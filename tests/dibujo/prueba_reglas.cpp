@@ -12,7 +12,7 @@ namespace {
 std::string rotulos(const Lienzo& l) { return rotulados(pintadas<PrimTexto>(l)); }
 
 TEST(Reglas, ElPasoMasCercanoDeLaSerieEnNueveDecadas) {
-  // 1.2 in five parts is 0.24, in six 0.2 exactly; 3 in six parts 0.5; 7 in seven 1; 10 in five 2
+  // 1.2 / 5 is 0.24, 1.2 / 6 is 0.2 exactly; 3 / 6 is 0.5; 7 / 7 is 1; 10 / 5 is 2
   const struct { double tramo, paso; } casos[] = {{1.2, 0.2}, {3, 0.5}, {7, 1}, {10, 2}, {24, 5}};
   for (int decada = -3; decada <= 5; ++decada)
     for (const auto& c : casos) {

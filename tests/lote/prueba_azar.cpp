@@ -4,31 +4,18 @@
 #include <random>
 #include <tuple>
 
+#include "apoyo/azar.h"
 #include "corrida.h"
 #include "lote/sesion.h"
 
 namespace calvento::lote {
 namespace {
 
-/// How many random projects in all; the environment variable CALVENTO_AZAR asks for more than the daily two thousand.
-int cuantos() {
-  const char* pedido = std::getenv("CALVENTO_AZAR");
-  return pedido != nullptr ? std::max(1, std::atoi(pedido)) : 2000;
-}
+/// How many random projects in all.
+int cuantos() { return cuantosAlAzar(2000, 1); }
 
 /// Seconds of processor time that one project may take, opening and all presses.
-#if defined(__SANITIZE_ADDRESS__) || !defined(NDEBUG)
-constexpr double limite = 8;
-#else
-constexpr double limite = 0.2;
-#endif
-
-using Azar = std::mt19937;
-
-double entre(Azar& azar, double a, double b) {
-  // written out, since the library's distributions differ from one library to another
-  return a + (b - a) * (static_cast<double>(azar()) / 4294967296.0);
-}
+constexpr double limite = limiteSegundos(0.2, 8);
 std::size_t hasta(Azar& azar, std::size_t n) { return azar() % n; }
 
 std::string numero(double x, int decimales) {

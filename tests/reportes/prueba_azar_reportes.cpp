@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <random>
 
+#include "apoyo/azar.h"
 #include "apoyo/dialogos_guion.h"
 #include "apoyo/navegador_mudo.h"
 #include "reportes/form11.h"
@@ -16,21 +17,11 @@
 namespace calvento {
 namespace {
 
-/// How many records of each kind; the environment variable CALVENTO_AZAR asks for more.
-int cuantos() {
-  const char* pedido = std::getenv("CALVENTO_AZAR");
-  return pedido != nullptr ? std::max(100, std::atoi(pedido)) : 200;
-}
+/// How many records of each kind.
+int cuantos() { return cuantosAlAzar(200, 100); }
 
 /// Seconds of processor time that one report may take.
-#if defined(__SANITIZE_ADDRESS__) || !defined(NDEBUG)
-constexpr double limite = 6;
-#else
-constexpr double limite = 0.3;
-#endif
-
-using Azar = std::mt19937;
-double entre(Azar& azar, double a, double b) { return a + (b - a) * (static_cast<double>(azar()) / 4294967296.0); }
+constexpr double limite = limiteSegundos(0.3, 6);
 
 /// What any of the three calculations could have left, with all fields of about their usual size.
 DesignState razonable(Azar& azar) {
