@@ -12,8 +12,6 @@ namespace {
 
 /// Capital letters are about so much of the size of their font, in twips: 8 points of 20 twips.
 constexpr double mayuscula = 0.72 * 160;
-/// Free room on each side of a text in the dimension line, in parts of its height.
-constexpr double holgura = 0.5;
 /// Half the width of an arrow head, in parts of its length.
 constexpr double medioAnchoFlecha = 1.0 / 6;
 
@@ -66,7 +64,7 @@ DibujoCota dibujarCota(const CotaDxf& c) {
   d.texto.altura = c.altura;
   d.texto.giro = giroLegible(u);
   d.texto.centrado = true;
-  const double medioTexto = anchoTexto(d.texto.texto) * c.altura / mayuscula / 2 + holgura * c.altura;
+  const double medioTexto = anchoTexto(d.texto.texto) * c.altura / mayuscula / 2 + holguraCota * c.altura;
   const double centroTexto = (c.texto.x - c.a.x) * u.x + (c.texto.y - c.a.y) * u.y;
   lineaPartida(d, a, u, centroTexto, c.posicion == 0 ? medioTexto : 0);
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cad/aplicacion_cad.h"
+#include "cad/medidas_cota.h"
 
 // A drawing as plain records, from which the DXF text is written.
 
@@ -34,10 +35,10 @@ struct FlechaDxf {
 };
 struct CotaDxf {
   PuntoCad a, b, texto;
-  double flecha = 0.18;
-  double extension = 0.18;
-  double separacion = 0.0625;
-  double altura = 0.18;
+  double flecha = medidaCota;
+  double extension = medidaCota;
+  double separacion = separacionEnSitio;
+  double altura = medidaCota;
   int posicion = 0;
 };
 

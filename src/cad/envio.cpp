@@ -3,18 +3,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "cad/medidas_cota.h"
 #include "comun/numeros.h"
 #include "comun/real.h"
 
 namespace calvento {
 
 namespace {
-
-/// Size of the arrows and texts of dimensions, and how far an extension line goes beyond the dimension line.
-constexpr double medidaCota = 0.075;
-/// Room between a measured point and its extension line: of a chain, and of a dimension on the measured line itself.
-constexpr double separacionCadena = 0.2;
-constexpr double separacionEnSitio = 0.1;
 
 bool tieneSitio(Punto p) { return std::isfinite(p.x) && std::isfinite(p.y); }
 

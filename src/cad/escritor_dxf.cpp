@@ -19,7 +19,36 @@ namespace calvento {
 namespace {
 
 constexpr const char* estiloTexto = "Standard";
-constexpr double escalaVentana = 1.5;  ///< width to height of the view that the drawing opens with
+constexpr double escalaVentana = 1.5;             ///< width to height of the view that the drawing opens with
+constexpr double anchoA3 = 0.42, altoA3 = 0.297;  ///< m; on a sheet of this size, lying, the drawing is printed
+
+/// A setting of dimensions: its header variable, its group in a style, its value.
+template <class Valor>
+struct AjusteCota {
+  const char* variable;
+  int grupo;
+  Valor valor;
+};
+constexpr AjusteCota<double> medidasDeCota[] = {
+    {"$DIMSCALE", 40, 1},
+    {"$DIMASZ", 41, medidaCota},
+    {"$DIMEXO", 42, separacionEnSitio},
+    {"$DIMEXE", 44, medidaCota},
+    {"$DIMTXT", 140, medidaCota},
+    {"$DIMLFAC", 144, 1},
+    {"$DIMGAP", 147, medidaCota* holguraCota},
+};
+constexpr int grupoPosicion = 77, grupoCeros = 78, grupoDecimales = 271;
+constexpr int sinCerosFinales = 8, decimalesCota = 3;
+constexpr AjusteCota<int> modosDeCota[] = {
+    {"$DIMTIH", 73, 0},  // texts lie along their line,
+    {"$DIMTOH", 74, 0},  // outside its ends too
+    {"$DIMTAD", grupoPosicion, 0},
+    {"$DIMZIN", grupoCeros, sinCerosFinales},
+    {"$DIMDEC", grupoDecimales, decimalesCota},
+    {"$DIMLUNIT", 277, 2},  // decimal
+    {"$DIMDSEP", 278, '.'},
+};
 
 std::string bloqueDeCota(std::size_t numero) { return "*D" + std::to_string(numero); }
 
@@ -87,6 +116,15 @@ class Escritor {
     w_->dxfString(9, nombre);
     w_->coord(10, x, y, 0);
   }
+  void variable(const char* nombre, double valor) {
+    w_->dxfString(9, nombre);
+    w_->dxfReal(40, valor);
+  }
+  void plana(const char* nombre, double x, double y) {
+    w_->dxfString(9, nombre);
+    w_->dxfReal(10, x);
+    w_->dxfReal(20, y);
+  }
 
   void cabecera() {
     w_->sectionHeader();
@@ -103,6 +141,11 @@ class Escritor {
     variable("$CLAYER", 8, "0");
     variable("$TEXTSTYLE", 7, estiloTexto);
     variable("$DIMSTYLE", 2, estiloTexto);
+    // some viewers read how dimensions look from here alone
+    for (const auto& m : medidasDeCota) variable(m.variable, m.valor);
+    for (const auto& m : modosDeCota) variable(m.variable, 70, m.valor);
+    plana("$PLIMMIN", 0, 0);
+    plana("$PLIMMAX", anchoA3, altoA3);
     w_->sectionEnd();
   }
 
@@ -146,6 +189,7 @@ class Escritor {
     for (const auto& [nombre, color] : dibujo_.capas) capa(nombre, color);
     w_->tableEnd();
     w_->tableStyle(1);
+    asaTexto_ = static_cast<int>(w_->getNextHandle());
     dxf_.writeStyle(*w_, DL_StyleData(estiloTexto, 0, 0, 1, 0, 0, 0.15, "Arial", ""));
     w_->tableEnd();
     dxf_.writeView(*w_);
@@ -153,14 +197,35 @@ class Escritor {
     w_->tableAppid(1);
     dxf_.writeAppid(*w_, "ACAD");
     w_->tableEnd();
-    const CotaDxf usual;
-    dxf_.writeDimStyle(*w_, usual.flecha, usual.extension, usual.separacion, usual.altura / 2, usual.altura);
+    estiloDeCota();
     dxf_.writeBlockRecord(*w_);
     const auto cotas = std::count_if(dibujo_.entidades.begin(), dibujo_.entidades.end(),
                                      [](const EntidadDxf& e) { return std::holds_alternative<CotaDxf>(e.forma); });
     for (std::ptrdiff_t i = 1; i <= cotas; ++i) dxf_.writeBlockRecord(*w_, bloqueDeCota(static_cast<std::size_t>(i)));
     w_->tableEnd();
     w_->sectionEnd();
+  }
+
+  /// Written group by group: the library's own style has two decimals and a comma, which some viewers go by.
+  void estiloDeCota() {
+    constexpr int asaTabla = 0xA, asaEstilo = 0x27;  // as the library numbers what stands before the entities
+    w_->dxfString(0, "TABLE");
+    w_->dxfString(2, "DIMSTYLE");
+    w_->dxfHex(5, asaTabla);
+    w_->dxfString(100, "AcDbSymbolTable");
+    w_->dxfInt(70, 1);
+    w_->dxfString(100, "AcDbDimStyleTable");
+    w_->dxfInt(71, 0);
+    w_->dxfString(0, "DIMSTYLE");
+    w_->dxfHex(105, asaEstilo);
+    w_->dxfString(100, "AcDbSymbolTableRecord");
+    w_->dxfString(100, "AcDbDimStyleTableRecord");
+    w_->dxfString(2, estiloTexto);
+    w_->dxfInt(70, 0);
+    for (const auto& m : medidasDeCota) w_->dxfReal(m.grupo, m.valor);
+    for (const auto& m : modosDeCota) w_->dxfInt(m.grupo, m.valor);
+    w_->dxfHex(340, asaTexto_);
+    w_->tableEnd();
   }
 
   void capa(const std::string& nombre, int color) {
@@ -241,12 +306,13 @@ class Escritor {
     w_->dxfString(1000, "DSTYLE");
     w_->dxfString(1002, "{");
     const std::array<std::pair<int, double>, 5> medidas = {
-        {{41, e.flecha}, {42, e.separacion}, {44, e.extension}, {140, e.altura}, {147, e.altura / 2}}};
+        {{41, e.flecha}, {42, e.separacion}, {44, e.extension}, {140, e.altura}, {147, e.altura * holguraCota}}};
     for (const auto& [codigo, valor] : medidas) {
       w_->dxfInt(1070, codigo);
       w_->dxfReal(1040, valor);
     }
-    const std::array<std::pair<int, int>, 3> modos = {{{77, e.posicion}, {78, 8}, {271, 3}}};
+    const std::array<std::pair<int, int>, 3> modos = {
+        {{grupoPosicion, e.posicion}, {grupoCeros, sinCerosFinales}, {grupoDecimales, decimalesCota}}};
     for (const auto& [codigo, valor] : modos) {
       w_->dxfInt(1070, codigo);
       w_->dxfInt(1070, valor);
@@ -260,6 +326,7 @@ class Escritor {
 
   const DatosDxf& dibujo_;
   Limites limites_;
+  int asaTexto_ = 0;  ///< handle of the text style
   DL_Dxf dxf_;
   std::unique_ptr<DL_WriterA> w_;
 };

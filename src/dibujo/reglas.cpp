@@ -24,6 +24,7 @@ void marcas(Single Pc, Single P10, Largas largas, Cortas cortas) {
   const Real primera = Fix(Pc / paso);
   const Real ultima = Fix(P10 / paso) + 1;
   if (ultima - primera > masMarcas) fallar(Motivo::sinConvergencia);
+  if (ultima < primera) return;  // a view turned round has no ticks, however far apart its edges
   // counted in whole numbers: far from 0 a tick more or less is lost in the rounding of its value
   const int cuantas = static_cast<int>((ultima - primera).valor());
   for (int n = 0; n <= cuantas; ++n) largas(Single(paso * (primera + n)));

@@ -94,7 +94,7 @@ ObstaculosCaida obstaculosCaida(const DesignState& e, const MinimoBloques& minim
 
 std::vector<FranjaBloque> franjas(const HileraBloques& h) {
   if (h.numero > masBloques) fallar(Motivo::desbordamiento);
-  const int n = static_cast<int>(h.numero.valor());
+  const int n = h.numero > 0 ? static_cast<int>(h.numero.valor()) : 0;  // below 0 where a height or the width is
   std::vector<FranjaBloque> todas;
   const Real paso = h.ancho + h.hueco;
   if (!h.piezasEnMuros) {

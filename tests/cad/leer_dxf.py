@@ -24,6 +24,11 @@ except ImportError:
 CAPAS = [("0", 7), ("RAS", 1), ("CANAL", 7), ("GRID", 8), ("TEXT", 1), ("TIRANTE", 4), ("LGRADIENTE", 3)]
 
 
+# how dimensions look, in the header and in the style: some viewers read only one of them
+COTAS = {"$DIMTXT": 0.075, "$DIMASZ": 0.075, "$DIMEXO": 0.1, "$DIMEXE": 0.075, "$DIMGAP": 0.0375, "$DIMSCALE": 1,
+         "$DIMLFAC": 1, "$DIMDEC": 3, "$DIMZIN": 8, "$DIMTAD": 0, "$DIMLUNIT": 2, "$DIMDSEP": 46}
+
+
 def exigir(condicion, que):
     if not condicion:
         raise AssertionError(que)
@@ -46,6 +51,12 @@ def cabecera(dibujo):
     exigir((dibujo.header["$INSUNITS"], dibujo.header["$MEASUREMENT"]) == (6, 1), "units")
     capas = [(c.dxf.name, c.dxf.color) for c in dibujo.layers if c.dxf.name != "Defpoints"]  # the reader's own
     exigir(capas == CAPAS, f"layers: {capas}")
+    estilo = dibujo.dimstyles.get("Standard")
+    for nombre, valor in COTAS.items():
+        leidos = (dibujo.header.get(nombre), estilo.dxf.get(nombre[1:].lower()))
+        exigir(leidos == (valor, valor), f"{nombre}: {leidos}")
+    hoja = [tuple(dibujo.header.get(v, ()))[:2] for v in ("$PLIMMIN", "$PLIMMAX")]
+    exigir(hoja == [(0, 0), (0.42, 0.297)], f"sheet: {hoja}, not A3 lying, in metres")
 
 
 def extension(dibujo):

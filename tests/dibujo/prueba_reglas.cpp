@@ -76,6 +76,11 @@ TEST(Reglas, UnTramoSinMedidaNoSeCuelga) {
   EXPECT_THROW(EJEX(1e30, 3e30, franja, reglaProgresivas), FalloAritmetico);
   EXPECT_NO_THROW(EJEY(5, 5, franja, reglaElevaciones));
   EXPECT_NO_THROW(EJEY(1e30, 1e30, franja, reglaElevaciones));
+  // turned round, by some 10 kilometres to more than whole numbers can count in ten-thousandths of a metre
+  for (const double hasta : {-1e4, -1e5, -1e9, -1e10}) {
+    EJEX(120, hasta, franja, reglaProgresivas);
+    EXPECT_TRUE(franja.primitivas().empty()) << hasta;
+  }
 }
 
 }  // namespace

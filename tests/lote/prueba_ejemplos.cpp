@@ -55,6 +55,14 @@ void comprobarPoza(const Diseno& d, double b, double z) {
   EXPECT_NEAR(momento(d["y1"]) / momento(d["y2"]), 1, 2e-3);
 }
 
+TEST(Ejemplos, EachBasinHoldsItsJumpWithAllDischarges) {
+  for (const auto& [extension, reporte] : {std::pair{".cvr", "Form13"}, {".cvi", "Form7"}, {".cvv", "Form26"}})
+    for (const std::string& archivo : ejemplos(extension)) {
+      const std::string veredicto = Diseno({archivo}).json["reportes"][reporte]["Text1"];
+      EXPECT_TRUE(veredicto.starts_with("EL DISEÑO ES ACEPTABLE")) << archivo << ": " << veredicto;
+    }
+}
+
 TEST(Ejemplos, ChutesAreSoundDesigns) {
   std::set<double> tramos, caudales;
   bool trapezoidal = false;

@@ -104,6 +104,9 @@ TEST(ReglasBloques, WithoutADepthOrAWidthTheyFail) {
   EXPECT_NO_THROW(bloquesDePiso(Tanque::usbr3, {e, 3, {}})) << "its teeth go by y2";
   e.y1 = 1e-7;
   EXPECT_THROW(franjas(bloquesDeRampa(Tanque::usbr2, {e, 3, {}})), FalloAritmetico) << "millions of blocks";
+  for (const double y1 : {-0.1, -1e-9, -1e-30})
+    EXPECT_TRUE(franjas(bloquesDeRampa(Tanque::usbr2, {(e.y1 = y1, e), 3, {}})).empty())
+        << "a count below zero, " << y1;
   EXPECT_THROW(obstaculosCaida(DesignState{}, {}), FalloAritmetico);
   EXPECT_FALSE(tanqueConBloques(2.5).has_value());
 }
