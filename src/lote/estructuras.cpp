@@ -4,17 +4,6 @@ namespace calvento::lote {
 
 namespace {
 
-Linea<Dato> canalArriba() {
-  return {"Canal aguas arriba", {{"b", "Text6", "m"}, {"Z", "Text7", ""}, {"n", "Text8", ""}, {"S", "Text9", "m/m"}}};
-}
-Linea<Dato> canalAbajo() {
-  return {"Canal aguas abajo",
-          {{"b", "Text16", "m"}, {"Z", "Text18", ""}, {"n", "Text19", ""}, {"S", "Text20", "m/m"}}};
-}
-Linea<Dato> elevacionesCaida() {
-  return {"Elevaciones", {{"inicio de caída", "Text2", "m"}, {"salida", "Text4", "m"}}};
-}
-
 /// The reports of a structure with a basin table: the sheet of its basin type comes last.
 std::vector<Reporte> conHojaDeBloques(std::vector<Reporte> reportes) {
   reportes.insert(
@@ -24,7 +13,6 @@ std::vector<Reporte> conHojaDeBloques(std::vector<Reporte> reportes) {
 }
 
 Estructura rapida() {
-  using D = DesignState;
   return {
       "rapida",
       &formatoRapida,
@@ -35,49 +23,10 @@ Estructura rapida() {
           {{"mntperfil", "Form11"}, {"mnformondas", "Form6"}, {"mntrayectoria", "Form8"}, {"mntanque", "Form13"}}),
       "Form3",
       "Form12",
-      {
-          {"Caudal", {{"Q", "Text5", "m³/s"}}},
-          canalArriba(),
-          {"Canal de la rápida",
-           {{"b", "Text10", "m"}, {"Z", "Text11", ""}, {"n", "Text12", ""}, {"tramos", "Text17", ""}}},
-          {"Pendientes de los tramos", {{"S1", "Text13", "m/m"}, {"S2", "Text15", "m/m"}, {"S3", "Text14", "m/m"}}},
-          canalAbajo(),
-          {"Poza", {{"B", "Text23", "m"}, {"Z", "Text24", ""}, {"ahogamiento", "Text26", "%"}}},
-          {"Taludes de las rampas", {{"Z1", "Text21", ""}, {"Z2", "Text22", ""}}},
-          {"Progresiva de inicio", {{"", "Text25", "m"}}},
-          {"Elevaciones",
-           {{"inicio", "Text1", "m"},
-            {"2do tramo", "Text3", "m"},
-            {"3er tramo", "Text27", "m"},
-            {"inicio de trayectoria", "Text2", "m"},
-            {"salida", "Text4", "m"}}},
-      },
-      {
-          {"Canal aguas arriba",
-           {{"Yn", &D::ynArriba, "m"}, {"V", &D::vArriba, "m/s"}, {"F", &D::frArriba, ""}, {"H", &D::hArriba, "m", 2}}},
-          {"Sección de control", {{"Y", &D::ycControl, "m"}, {"sobre elevación", &D::sobreelevacion, "m"}}},
-          {"Tramos (longitud)",
-           {{"L1", &D::longTramo1, "m", 2},
-            {"L2", &D::longTramo2, "m", 2, true},
-            {"L3", &D::longTramo3, "m", 2, true}}},
-          {"Fin de la rápida",
-           {{"Y", &D::yFin, "m"}, {"V", &D::vFin, "m/s"}, {"F", &D::frFin, ""}, {"H", &D::hRapida, "m", 2}}},
-          {"Trayectoria", {{"L", &D::xTrayectoria, "m"}, {"elevación final", &D::cotaTrayectoria, "m"}}},
-          {"Rampa de ingreso", {{"Z1", &D::zRampaEntrada, "", 2}}},
-          {"Inicio del resalto", {{"Y1", &D::y1, "m"}, {"V1", &D::v1, "m/s"}, {"F1", &D::fr1, ""}}},
-          {"Fin del resalto", {{"Y2", &D::y2, "m"}, {"V2", &D::v2, "m/s"}}},
-          {"Poza",
-           {{"elevación", &D::cotaPoza, "m"},
-            {"profundidad", &D::profPoza, "m"},
-            {"longitud", &D::longPoza, "m", 2},
-            {"H", &D::hPoza, "m", 2}}},
-          {"Canal aguas abajo", {{"Yn", &D::ynAbajo, "m"}, {"V", &D::vAbajo, "m/s"}, {"H", &D::hAbajo, "m", 2}}},
-          {"Transiciones", {{"entrada", &D::longTransEntrada, "m", 2}, {"salida", &D::longTransSalida, "m", 2}}},
-      }};
+  };
 }
 
 Estructura caidaInclinada() {
-  using D = DesignState;
   return {
       "caida_inclinada",
       &formatoCaidaInclinada,
@@ -87,43 +36,10 @@ Estructura caidaInclinada() {
       conHojaDeBloques({{"mntanque", "Form7"}}),
       "Form4",
       "Form9",
-      {
-          {"Caudal", {{"Q", "Text5", "m³/s"}}},
-          canalArriba(),
-          canalAbajo(),
-          {"Poza", {{"B", "Text23", "m"}, {"Z", "Text24", ""}, {"ahogamiento", "Text3", "%"}}},
-          {"Taludes de las rampas", {{"Z1", "Text21", ""}, {"Z2", "Text22", ""}}},
-          {"Progresiva de inicio", {{"", "Text25", "m"}}},
-          elevacionesCaida(),
-      },
-      {
-          {"Canal aguas arriba",
-           {{"Yn", &D::ynArriba, "m"}, {"V", &D::vArriba, "m/s"}, {"F", &D::frArriba, ""}, {"H", &D::hArriba, "m", 2}}},
-          {"Cresta",
-           {{"Y", &D::yFin, "m"},
-            {"V", &D::vFin, "m/s"},
-            {"sobre elevación", &D::sobreelevacion, "m"},
-            {"L", &D::longControl, "m", 2},
-            {"elevación", &D::cotaFin, "m"}}},
-          {"Curva", {{"R", &D::radioCurva, "m", 2}, {"L", &D::xTrayectoria, "m"}, {"fin", &D::cotaTrayectoria, "m"}}},
-          {"Inicio del resalto", {{"Y1", &D::y1, "m"}, {"V1", &D::v1, "m/s"}, {"F1", &D::fr1, ""}}},
-          {"Fin del resalto", {{"Y2", &D::y2, "m"}, {"V2", &D::v2, "m/s"}}},
-          {"Poza",
-           {{"elevación", &D::cotaPoza, "m"},
-            {"profundidad", &D::profPoza, "m", 2},
-            {"longitud", &D::longPoza, "m", 2},
-            {"H", &D::hPoza, "m", 2}}},
-          {"Canal aguas abajo",
-           {{"elevación", &D::cotaAbajo, "m"},
-            {"Yn", &D::ynAbajo, "m"},
-            {"V", &D::vAbajo, "m/s"},
-            {"H", &D::hAbajo, "m", 2}}},
-          {"Transiciones", {{"entrada", &D::longTransEntrada, "m", 2}, {"salida", &D::longTransSalida, "m", 2}}},
-      }};
+  };
 }
 
 Estructura caidaVertical() {
-  using D = DesignState;
   return {
       "caida_vertical",
       &formatoCaidaVertical,
@@ -133,34 +49,7 @@ Estructura caidaVertical() {
       {{"mntanque", "Form26"}},
       "Form17",
       "Form18",
-      {
-          {"Caudal", {{"Q", "Text5", "m³/s"}}},
-          canalArriba(),
-          canalAbajo(),
-          {"Poza", {{"B", "Text23", "m"}, {"Z2", "Text22", ""}}},
-          {"Progresiva de inicio", {{"", "Text25", "m"}}},
-          elevacionesCaida(),
-      },
-      {
-          {"Canal aguas arriba",
-           {{"Yn", &D::ynArriba, "m"}, {"V", &D::vArriba, "m/s"}, {"F", &D::frArriba, ""}, {"H", &D::hArriba, "m", 2}}},
-          {"Cresta",
-           {{"Yc", &D::yFin, "m"},
-            {"V", &D::vFin, "m/s"},
-            {"sobre elevación", &D::sobreelevacion, "m"},
-            {"L", &D::longControl, "m", 2}}},
-          {"Caída", {{"tirante al pie", &D::yVert94, "m"}, {"longitud total", &D::longRapida, "m"}}},
-          {"Inicio del resalto", {{"Y1", &D::y1, "m"}}},
-          {"Fin del resalto", {{"Y2", &D::y2, "m"}, {"V2", &D::v2, "m/s"}}},
-          {"Poza",
-           {{"elevación", &D::cotaPoza, "m"}, {"profundidad", &D::profPoza, "m", 2}, {"longitud", &D::longPoza, "m"}}},
-          {"Canal aguas abajo", {{"Yn", &D::ynAbajo, "m"}, {"H", &D::hAbajo, "m", 2}}},
-          {"Transiciones", {{"entrada", &D::longTransEntrada, "m", 2}, {"salida", &D::longTransSalida, "m", 2}}},
-          {"Ventilación",
-           {{"contracción lateral", &D::longTransVert, "m", 2, true},
-            {"tubos", &D::numTubos, "", 0},
-            {"diámetro", &D::diamTubo, "m", 4}}},
-      }};
+  };
 }
 
 }  // namespace

@@ -208,6 +208,28 @@ void escribirReportes(EscritorJson& j, const std::vector<ReporteAbierto>& report
   j.cerrarObjeto();
 }
 
+void escribirComprobaciones(EscritorJson& j, const Comprobaciones& todas) {
+  j.clave("comprobaciones");
+  j.abrirLista();
+  for (const Comprobacion& c : todas) {
+    j.abrirObjeto();
+    j.clave("nombre");
+    j.texto(c.nombre);
+    j.clave("estado");
+    j.texto(nombreEstado(c.estado));
+    j.clave("valor");
+    j.numero(c.valor);
+    j.clave("limite");
+    j.numero(c.limite);
+    j.clave("unidad");
+    j.texto(c.unidad);
+    j.clave("detalle");
+    j.texto(c.detalle);
+    j.cerrarObjeto();
+  }
+  j.cerrarLista();
+}
+
 void escribirCabecera(EscritorJson& j, const std::string& archivo, const Estructura* estructura, bool calculado) {
   j.clave("archivo");
   j.texto(archivo);
@@ -229,6 +251,7 @@ std::string comoJson(const Sesion& s) {
     escribirPerfiles(j, s.estado());
     escribirVentana(j, *s.ventana(), *s.estructura());
     escribirReportes(j, s.reportes());
+    escribirComprobaciones(j, s.comprobaciones());
   }
   j.cerrarObjeto();
   return j.salida();

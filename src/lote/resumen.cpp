@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "comun/numeros.h"
 #include "plataforma/rejilla.h"
@@ -38,7 +39,7 @@ std::string linea(std::string_view lugar, const std::vector<std::string>& piezas
 
 std::string datos(const Sesion& sesion) {
   std::string s = "\nDATOS\n";
-  for (const Linea<Dato>& l : sesion.estructura()->datos) {
+  for (const Linea<Dato>& l : sesion.estructura()->ficha().datos) {
     std::vector<std::string> piezas;
     for (const Dato& d : l.piezas) {
       const auto* campo = sesion.ventana()->buscar<TextBox>(d.control);
@@ -62,7 +63,7 @@ std::string notas(const Sesion& sesion) {
 std::string resultados(const Sesion& sesion) {
   std::string s = "\nRESULTADOS\n";
   if (!sesion.calculado()) return s + "  El cálculo no llegó a su fin.\n" + notas(sesion);
-  for (const Linea<Valor>& l : sesion.estructura()->resultados) {
+  for (const Linea<Valor>& l : sesion.estructura()->ficha().resultados) {
     std::vector<std::string> piezas;
     for (const Valor& v : l.piezas) {
       const Single x = sesion.estado().*v.campo;
@@ -131,6 +132,24 @@ std::string verificaciones(const Sesion& sesion) {
   return s.empty() ? s : "\nVERIFICACIONES\n" + s;
 }
 
+/// A line for each check that applies; of one that does not hold also what it means.
+std::string comprobaciones(const Sesion& sesion) {
+  const Comprobaciones todas = sesion.comprobaciones();
+  if (todas.empty()) return {};
+  const CuentaComprobaciones cuenta = contar(todas);
+  std::string s = "\nCOMPROBACIONES: " + std::to_string(cuenta.cumplen) + " de " + std::to_string(cuenta.total) + "\n";
+  const auto cifra = [](double x) { return std::isfinite(x) ? formato(Real(x), "0.000") : std::string("-"); };
+  for (const Comprobacion& c : todas) {
+    if (c.estado == Comprobacion::Estado::noAplica) continue;
+    const bool mala = c.estado != Comprobacion::Estado::cumple;
+    s += (mala ? "> " : "  ") + alineado(std::string(c.nombre), 42) +
+         alineado(std::string(nombreEstado(c.estado)), 13) + alineado(cifra(c.valor), 10) + " límite " +
+         cifra(c.limite) + (c.unidad.empty() ? "" : " ") + std::string(c.unidad) + "\n";
+    if (mala) s += "      " + c.detalle + "\n";
+  }
+  return s;
+}
+
 std::string mensajes(const Sesion& sesion) {
   std::string s = "\nMENSAJES\n";
   if (sesion.mensajes().empty()) s += "  ninguno\n";
@@ -156,7 +175,7 @@ std::string comoResumen(const Sesion& sesion) {
   // of a project that was not read there is nothing to show but why
   if (sesion.ventana() != nullptr && !sesion.estado().esNuevo) {
     s += sesion.ventana()->Caption.valor() + "\n";
-    s += datos(sesion) + resultados(sesion) + tablaTanques(sesion) + verificaciones(sesion);
+    s += datos(sesion) + resultados(sesion) + tablaTanques(sesion) + verificaciones(sesion) + comprobaciones(sesion);
   }
   return s + mensajes(sesion) + "\n";
 }

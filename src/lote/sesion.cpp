@@ -67,6 +67,22 @@ void Sesion::abrirReportes() {
   }
 }
 
+Diseno Sesion::diseno() const {
+  const Ficha& ficha = estructura_->ficha();
+  return {ficha, *ventana_, *aplicacion_.cargada(ficha.parametros), estado_, mensajes_};
+}
+
+Comprobaciones Sesion::comprobaciones() const {
+  if (!calculado_) return {};
+  const auto tabla = [this](std::string_view ventana) {
+    for (const ReporteAbierto& r : reportes_)
+      if (r.nombre == ventana && r.ventana != nullptr) return r.ventana->buscar<Grid>("Grid1")->tabla;
+    return Rejilla();
+  };
+  const Diseno d = diseno();
+  return comprobar(d, tabla(d.rapida() ? "Form13" : d.inclinada() ? "Form7" : "Form26"), tabla("Form6"));
+}
+
 void Sesion::ponerCampos(const Opciones& opciones, bool deParametros) {
   for (const Asignacion& a : opciones.campos) {
     if (esDeParametros(a.ventana) != deParametros) continue;

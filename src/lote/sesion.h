@@ -7,17 +7,12 @@
 #include "aplicacion/aplicacion.h"
 #include "lote/estructuras.h"
 #include "lote/opciones.h"
+#include "memoria/comprobaciones.h"
+#include "plataforma/mensaje.h"
 #include "plataforma/sin_pantalla.h"
 #include "plataforma/ventana_datos.h"
 
 namespace calvento::lote {
-
-struct Mensaje {
-  enum class Tipo { aviso, pregunta, fallo };
-  Tipo tipo;
-  std::string texto;
-  bool respuesta = false;  ///< of a question: yes
-};
 
 /// A result window that was opened after the calculation; without a window, why it did not open.
 struct ReporteAbierto {
@@ -72,6 +67,10 @@ class Sesion {
   const DesignState& estado() const { return estado_; }
   /// The result windows whose menus are enabled.
   const std::vector<ReporteAbierto>& reportes() const { return reportes_; }
+  /// The design with its data. Only of a calculated project.
+  Diseno diseno() const;
+  /// Its checks, on the tables of the result windows; none of a project that was not calculated.
+  Comprobaciones comprobaciones() const;
   /// The running program, whose result windows can be loaded.
   Aplicacion& aplicacion() { return aplicacion_; }
   /// Lets the save dialogs of what follows name this file.

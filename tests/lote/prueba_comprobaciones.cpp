@@ -1,0 +1,104 @@
+// The checks of a design: what each must find, and that a sound design passes them all.
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <map>
+#include <set>
+
+#include "corrida.h"
+#include "lote/estructuras.h"
+
+namespace calvento::lote {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string recortado(const std::string& s) {
+  const auto a = s.find_first_not_of(' ');
+  return a == std::string::npos ? "" : s.substr(a, s.find_last_not_of(' ') + 1 - a);
+}
+
+std::set<std::string> partes(const std::string& texto, char separador) {
+  std::set<std::string> todas;
+  std::istringstream flujo(texto);
+  for (std::string p; std::getline(flujo, p, separador);)
+    if (!recortado(p).empty()) todas.insert(recortado(p));
+  return todas;
+}
+
+/// The checks of a project by their state.
+std::map<std::string, std::set<std::string>> comprobacionesDe(const std::string& archivo) {
+  const Corrida c = correr({"--json", archivo});
+  EXPECT_EQ(c.estado, 0) << c.errores;
+  std::map<std::string, std::set<std::string>> porEstado;
+  auto objetos = c.objetos();
+  for (const auto& x : objetos.at(0)["comprobaciones"]) {
+    porEstado[x["estado"]].insert(x["nombre"]);
+    EXPECT_FALSE(x["detalle"].get<std::string>().empty()) << x["nombre"];
+    EXPECT_EQ(x["detalle"].get<std::string>().find("sin valor"), std::string::npos) << x;
+  }
+  return porEstado;
+}
+
+/// The example whose name begins so, with some lines of its file changed.
+std::string variante(const CarpetaPrueba& carpeta, const std::string& ejemplo, const std::string& cambios) {
+  for (const auto& e : fs::directory_iterator(fs::path(RAIZ_PROYECTO) / "ejemplos")) {
+    if (e.path().filename().string().substr(0, 2) != ejemplo) continue;
+    const FormatoProyecto& formato = *estructuraDe(e.path().string())->formato;
+    std::vector<std::string> lineas = leerLineas(e.path(), formato.lineas.size());
+    for (const std::string& cambio : partes(cambios, ' ')) {
+      const auto igual = cambio.find('=');
+      const auto it = std::ranges::find(formato.lineas, cambio.substr(0, igual));
+      EXPECT_NE(it, formato.lineas.end()) << cambio;
+      lineas.at(static_cast<std::size_t>(it - formato.lineas.begin())) = cambio.substr(igual + 1);
+    }
+    const std::string archivo = carpeta.en(e.path().filename().string());
+    escribirLineas(archivo, lineas);
+    return archivo;
+  }
+  ADD_FAILURE() << "no example " << ejemplo;
+  return {};
+}
+
+TEST(Comprobaciones, EachKnownFaultIsFoundByItsCheck) {
+  const CarpetaPrueba carpeta;
+  std::ifstream tabla(fs::path(RAIZ_PROYECTO) / "tests/lote/fallas.txt");
+  int casos = 0;
+  for (std::string fila; std::getline(tabla, fila);) {
+    if (fila.empty() || fila[0] == '#') continue;
+    SCOPED_TRACE(fila);
+    const auto p1 = fila.find(';'), p2 = fila.find(';', p1 + 1);
+    const auto hallado = comprobacionesDe(
+        variante(carpeta, recortado(fila.substr(0, p1)), fila.substr(p1 + 1, p2 - p1 - 1)));
+    std::set<std::string> fallan;
+    for (const std::string& nombre : partes(fila.substr(p2 + 1), '+')) {
+      if (nombre[0] == '~')
+        EXPECT_TRUE(hallado.at("observación").contains(nombre.substr(1)));
+      else
+        fallan.insert(nombre);
+    }
+    EXPECT_EQ(hallado.contains("no cumple") ? hallado.at("no cumple") : std::set<std::string>{}, fallan);
+    ++casos;
+  }
+  EXPECT_GE(casos, 20);
+}
+
+TEST(Comprobaciones, EveryExamplePassesAndTheListOfAStructureIsAlwaysTheSame) {
+  std::map<std::string, std::set<std::string>> listas;
+  for (const auto& e : fs::directory_iterator(fs::path(RAIZ_PROYECTO) / "ejemplos")) {
+    if (e.path().extension() == ".md") continue;
+    SCOPED_TRACE(e.path());
+    std::set<std::string> todas;
+    for (auto& [estado, nombres] : comprobacionesDe(e.path().string())) {
+      EXPECT_NE(estado, "no cumple") << *nombres.begin();
+      todas.insert(nombres.begin(), nombres.end());
+    }
+    const auto [lista, nueva] = listas.emplace(e.path().extension().string(), todas);
+    EXPECT_EQ(lista->second, todas);
+    EXPECT_GT(todas.size(), 20U);
+  }
+  EXPECT_EQ(listas.size(), 3U);
+}
+
+}  // namespace
+}  // namespace calvento::lote
