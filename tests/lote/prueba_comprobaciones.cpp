@@ -68,8 +68,8 @@ TEST(Comprobaciones, EachKnownFaultIsFoundByItsCheck) {
     if (fila.empty() || fila[0] == '#') continue;
     SCOPED_TRACE(fila);
     const auto p1 = fila.find(';'), p2 = fila.find(';', p1 + 1);
-    const auto hallado = comprobacionesDe(
-        variante(carpeta, recortado(fila.substr(0, p1)), fila.substr(p1 + 1, p2 - p1 - 1)));
+    const auto hallado =
+        comprobacionesDe(variante(carpeta, recortado(fila.substr(0, p1)), fila.substr(p1 + 1, p2 - p1 - 1)));
     std::set<std::string> fallan;
     for (const std::string& nombre : partes(fila.substr(p2 + 1), '+')) {
       if (nombre[0] == '~')
