@@ -1,6 +1,7 @@
 #pragma once
 
 #include "comun/real.h"
+#include "hidraulica/raiz_cubica.h"
 
 namespace calvento {
 
@@ -49,10 +50,13 @@ class PasoMarcha {
     const double v = (Real(Q) / A).valor();
     const double P = comprobado(b + 2 * y * W).valor();
     const Real R = Real(A) / P;
-    const double raizSf = (Real(n * v) / potencia(R, 2.0 / 3.0)).valor();
+    if (!(R > 0)) fallar(R < 0 ? Motivo::argumentoNoValido : Motivo::divisionPorCero);
+    const double u = inversaRaizCubica(R.valor());
+    const double u2 = u * u;  // R^(-2/3)
+    const double raizSf = n * v * u2;
     const double F = v * v / dosG + y + 0.5 * ds * (raizSf * raizSf) - H;
     const double dF = 1 - cociente(T * v * v, gravedad * A) -
-                      cociente(0.5 * ds * n * n, potencia(R, 7.0 / 3.0).valor()) *
+                      comprobado(0.5 * ds * n * n * (u * u2 * u2 * u2)).valor() *  // R^(-7/3)
                           (2 * R.valor() * T * v * v / A + cociente(4, 3 * P * P) * v * v * (T * P - 2 * A * W));
     return {comprobado(y - cociente(F, dF)), v, A, comprobado(T), raizSf};
   }
@@ -66,34 +70,58 @@ class PasoMarcha {
 }  // namespace detalle
 
 /// Water surface of a reach by the standard step method in energy form, downstream in 100 equal steps from the depth y
-/// at its head; calls `enEstacion` after each step. Returns the iterate before the last correction, as a 4-byte value.
-/// The energy of the first step carries no friction term of the section at the head. Fails for a slope of 0 and where a
-/// step has no depth.
+/// at its head. The energy of the first step carries no friction term of the section at the head. Fails for a slope of
+/// 0 and where a step has no depth. It advances by single Newton rounds, so that marches that do not depend on each
+/// other can take turns: a round is a long chain of divisions, and the processor works on several chains at once.
+class Marcha {
+ public:
+  Marcha(const TramoMarcha& t, Real y)
+      : t_(t),
+        dz_((t.cotaA - t.cotaB) / pasosPorTramo),
+        ds_(Sqr(t.S * t.S + 1) * ((t.cotaA - t.cotaB) / t.S) / pasosPorTramo),
+        paso_(t, ds_),
+        vueltas_(t.limiteVueltas) {
+    const Real v0 = t.Q / ((t.b + t.z * y) * y);
+    H_ = dz_ + y + v0 * v0 / dosG;
+    y_ = y / 2;
+  }
+
+  /// One Newton round; calls `enEstacion` where it ends a station. False once the last station has ended.
+  template <class EnEstacion>
+  bool ronda(EnEstacion&& enEstacion) {
+    vueltas_.una();
+    r_ = y_;
+    const detalle::Vuelta vuelta = paso_.corregir(y_.valor(), H_.valor());
+    y_ = vuelta.y;
+    if (!(Abs(y_ - r_) < 0.00001)) return true;
+    const Real v = vuelta.v;
+    enEstacion(EstacionMarcha{dz_ / t_.S, dz_, y_, v, vuelta.A, vuelta.T});
+    H_ = dz_ + y_ + v * v / dosG - ds_ * cuadrado(vuelta.raizSf) / 2;
+    y_ = t_.amortiguacion * y_;
+    vueltas_ = Vueltas(t_.limiteVueltas);
+    return ++estaciones_ < pasosPorTramo;
+  }
+
+  /// Depth at the end of the reach: the iterate before the last correction, as a 4-byte value.
+  Single final() const { return r_; }
+
+ private:
+  TramoMarcha t_;
+  Real dz_, ds_;
+  detalle::PasoMarcha paso_;
+  Vueltas vueltas_;
+  Real H_, y_;
+  Single r_;
+  int estaciones_ = 0;
+};
+
+/// The whole march of a reach; calls `enEstacion` after each step and returns the depth at its end.
 template <class EnEstacion>
 Single marchar(const TramoMarcha& t, Real y, EnEstacion&& enEstacion) {
-  const Real L = (t.cotaA - t.cotaB) / t.S;
-  const Real dz = (t.cotaA - t.cotaB) / pasosPorTramo;
-  const Real ds = Sqr(t.S * t.S + 1) * L / pasosPorTramo;
-  const Real v0 = t.Q / ((t.b + t.z * y) * y);
-  Real H = dz + y + v0 * v0 / dosG;
-  y = y / 2;
-  Single r = 0;
-  const detalle::PasoMarcha paso(t, ds);
-  for (int i = 0; i < pasosPorTramo; ++i) {
-    detalle::Vuelta vuelta;
-    Vueltas vueltas(t.limiteVueltas);
-    do {
-      vueltas.una();
-      r = y;
-      vuelta = paso.corregir(y.valor(), H.valor());
-      y = vuelta.y;
-    } while (!(Abs(y - r) < 0.00001));
-    const Real v = vuelta.v;
-    enEstacion(EstacionMarcha{dz / t.S, dz, y, v, vuelta.A, vuelta.T});
-    H = dz + y + v * v / dosG - ds * cuadrado(vuelta.raizSf) / 2;
-    y = t.amortiguacion * y;
+  Marcha marcha(t, y);
+  while (marcha.ronda(enEstacion)) {
   }
-  return r;
+  return marcha.final();
 }
 
 }  // namespace calvento

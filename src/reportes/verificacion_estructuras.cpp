@@ -1,4 +1,6 @@
 #include <array>
+#include <optional>
+#include <vector>
 
 #include "caida_vertical/calculo_vertical.h"
 #include "comun/numeros.h"
@@ -42,21 +44,60 @@ std::optional<Real> kTrapezoidal(const DesignState& e) {
   return Round(2.249 * cubo(z) - 3.594 * z * z + 7.007 * z + 5.002, 2);
 }
 
-/// Depths at the end of the chute. A reach that cannot be marched hands on the depth at its head.
-std::array<Real, caudales> tirantesAlFinal(const DesignState& e) {
-  std::array<Real, caudales> finales;
-  Real y = 0;
-  for (int n = 1; n <= caudales; ++n) {
-    const Real Q = caudalVerificado(e, n);
-    pasandoFallos([&] { y = YCRITICO(Q, e.bRapida, e.zRapida); });
-    for (const TramoRapida& t : tramosRapida(e))
+/// Depths of some discharges on their way down the chute, from the first one on.
+struct Tanda {
+  int primera;
+  std::vector<Real> y;
+};
+
+/// Marches them down all reaches, a Newton round each in turn. A reach that cannot be marched hands on the depth at its
+/// head.
+void marcharPorTurnos(const DesignState& e, Tanda& tanda) {
+  for (const TramoRapida& t : tramosRapida(e)) {
+    std::vector<std::optional<Marcha>> marchas(tanda.y.size());
+    for (std::size_t i = 0; i < marchas.size(); ++i)
       pasandoFallos([&] {
+        const Real Q = caudalVerificado(e, tanda.primera + static_cast<int>(i));
         // each station starts at half the depth of the one before, not at nine tenths as in the profile
-        y = marchar({Q, e.bRapida, e.zRapida, e.nRapida, t.S, t.cotaA, t.cotaB, 0.5, vueltasDeEstacion}, y,
-                    [](const EstacionMarcha&) {});
+        marchas[i].emplace(
+            TramoMarcha{Q, e.bRapida, e.zRapida, e.nRapida, t.S, t.cotaA, t.cotaB, 0.5, vueltasDeEstacion}, tanda.y[i]);
       });
-    finales[static_cast<std::size_t>(n - 1)] = y;
+    for (bool sigue = true; sigue;) {
+      sigue = false;
+      for (std::size_t i = 0; i < marchas.size(); ++i) {
+        bool enCamino = false;
+        if (marchas[i])
+          pasandoFallos([&] {
+            enCamino = marchas[i]->ronda([](const EstacionMarcha&) {});
+            if (!enCamino) tanda.y[i] = marchas[i]->final();
+          });
+        if (!enCamino) marchas[i].reset();
+        sigue = sigue || enCamino;
+      }
+    }
   }
+}
+
+/// Depths at the end of the chute. A discharge without a critical depth starts from the depth at which the one before
+/// ended, so it has to wait for that one.
+std::vector<Real> tirantesAlFinal(const DesignState& e) {
+  std::vector<Real> finales;
+  Tanda tanda{1, {}};
+  const auto terminar = [&] {
+    marcharPorTurnos(e, tanda);
+    finales.insert(finales.end(), tanda.y.begin(), tanda.y.end());
+    tanda = {tanda.primera + static_cast<int>(tanda.y.size()), {}};
+  };
+  for (int n = 1; n <= caudales; ++n) {
+    std::optional<Real> yc;
+    pasandoFallos([&] { yc = YCRITICO(caudalVerificado(e, n), e.bRapida, e.zRapida); });
+    if (!yc) {
+      terminar();
+      yc = finales.empty() ? Real(0) : finales.back();
+    }
+    tanda.y.push_back(*yc);
+  }
+  terminar();
   return finales;
 }
 

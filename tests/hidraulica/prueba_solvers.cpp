@@ -5,6 +5,7 @@
 #include <random>
 
 #include "apoyo/dialogos_guion.h"
+#include "hidraulica/raiz_cubica.h"
 #include "hidraulica/solvers.h"
 
 namespace calvento {
@@ -157,6 +158,13 @@ TEST(Y1Resalto, TooLittleEnergyIsToldOnceAndGivesZero) {
   DialogosGuion dialogos;
   dialogos.esperaAviso("NO ES POSIBLE CALCULAR TIRANTE CONJUGADO MENOR DEL RESALTO, CORREGIR ENTRADA DE DATOS");
   EXPECT_EQ(conEnergia(3, 9, 1, dialogos).valor(), 0);  // 8.859 is the most that 3 m can carry
+}
+
+TEST(RaizCubica, ItsInverseGivesTheNumberBackWhateverItsSize) {
+  for (double x = 5e-324; x < 1.7e308; x = x < 1e-300 ? x * 2 : x * 1.0137) {
+    const Largo u = inversaRaizCubica(x);
+    ASSERT_NEAR(static_cast<double>(u * u * u * x), 1, 4e-15) << x;
+  }
 }
 
 }  // namespace
