@@ -5,7 +5,9 @@
 #include <optional>
 
 #include <QFont>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QTransform>
 
 #include "plataforma/medidas.h"
 #include "qt/cadena.h"
@@ -50,6 +52,9 @@ class Repeticion {
         y_(destino.height() / escala_.alto),
         pixel_(destino.height() / std::max(lienzo.altoPixeles(), 1)),
         aumento_(destino.height() / std::max(lienzo.altoReferencia(), 1)) {
+    const QTransform& dispositivo = pintor.deviceTransform();
+    if (pintor.paintEngine()->type() == QPaintEngine::Raster && dispositivo.type() <= QTransform::TxScale)
+      aPuntos_ = dispositivo;
     const double margen = 64 * pixel_ + 64;  // room for the width of a line whose course lies just outside
     marco_ = destino.adjusted(-margen, -margen, margen, margen);
   }
@@ -62,7 +67,7 @@ class Repeticion {
     if (marco_.contains(puntos.boundingRect())) {
       usar(p.pluma);
       pintor_.setBrush(Qt::NoBrush);
-      pintor_.drawPolyline(puntos);
+      pintor_.drawPolyline(nitidos(puntos, p.pluma, false));
     } else {
       for (qsizetype i = 1; i < puntos.size(); ++i) linea(QLineF(puntos[i - 1], puntos[i]), p.pluma);
     }
@@ -112,9 +117,22 @@ class Repeticion {
     return {destino_.left() + (p.x - escala_.izquierda) * x_, destino_.top() + (p.y - escala_.arriba) * y_};
   }
 
+  /// Width of a line. It never becomes thinner than a hair that the eye finds, and on a screen it has whole points.
+  double ancho(const Pluma& pluma) const {
+    const double a = std::max(pluma.grosor * pixel_, std::min(pixel_, 0.8));
+    return aPuntos_ ? puntosDeAncho(a) / aPuntos_->m22() : a;
+  }
+  int puntosDeAncho(double ancho) const { return std::max(1, static_cast<int>(std::lround(ancho * aPuntos_->m22()))); }
+
+  /// A course on the points of the screen or image; on paper and in vector files it stays as it is.
+  QPolygonF nitidos(QPolygonF puntos, const Pluma& pluma, bool cerrado) const {
+    if (!aPuntos_) return puntos;
+    return aPuntos_->inverted().map(
+        sobrePixeles(aPuntos_->map(puntos), puntosDeAncho(ancho(pluma)), cerrado, aPuntos_->mapRect(destino_)));
+  }
+
   void usar(const Pluma& pluma) {
-    // a line never becomes thinner than a hair that the eye finds
-    const double ancho = std::max(pluma.grosor * pixel_, std::min(pixel_, 0.8));
+    const double ancho = this->ancho(pluma);
     QPen p(tinta(pluma.color), ancho, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
     if (pluma.estilo != EstiloLinea::solida) {
       QVector<qreal> t = trazos(pluma.estilo);
@@ -143,7 +161,8 @@ class Repeticion {
     const QLineF visible = recortar(l, marco_);
     if (visible.isNull()) return;
     usar(pluma);
-    pintor_.drawLine(visible);
+    const QPolygonF extremos = nitidos({visible.p1(), visible.p2()}, pluma, false);
+    pintor_.drawLine(extremos[0], extremos[1]);
   }
 
   void superficie(QPolygonF puntos, const Pluma& pluma, const Relleno& relleno) {
@@ -153,6 +172,7 @@ class Repeticion {
       return;
     if (!marco_.contains(caja)) puntos = recortar(puntos, marco_);
     if (puntos.isEmpty()) return;
+    puntos = nitidos(std::move(puntos), pluma, true);
     if (relleno.estilo == EstiloRelleno::cruzadoDiagonal) {
       usar(Pluma{relleno.color, EstiloLinea::solida, 1});
       const auto rayas = rayadoCruzado(puntos, destino_.topLeft(), pasoRayado * pixel_);
@@ -172,8 +192,9 @@ class Repeticion {
   EscalaLienzo escala_;
   double x_;
   double y_;
-  double pixel_;    ///< one pixel of the picture at its own size
-  double aumento_;  ///< how much larger than at its reference height the picture is painted
+  double pixel_;                       ///< one pixel of the picture at its own size
+  double aumento_;                     ///< how much larger than at its reference height the picture is painted
+  std::optional<QTransform> aPuntos_;  ///< to the points of the screen or image; none where lines have no points
   std::optional<Letra> letraEnUso_;
 };
 

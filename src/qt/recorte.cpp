@@ -84,6 +84,26 @@ QPolygonF recortar(const QPolygonF& poligono, const QRectF& marco) {
   return cortar(p, [&](QPointF q) { return marco.bottom() - q.y(); });
 }
 
+QPolygonF sobrePixeles(QPolygonF puntos, int grosor, bool cerrado, const QRectF& hoja) {
+  constexpr double recto = 1.0 / 16;  // pixels by which an edge may lean and still look level
+  const double medio = grosor % 2 == 0 ? 0 : 0.5;
+  const auto ajustada = [&](double v, double menor, double mayor) {
+    const double r = std::floor(v - medio + 0.5) + medio;
+    const bool cabe = mayor - menor > grosor && v >= menor && v <= mayor;
+    return cabe ? std::clamp(r, menor + grosor / 2.0, mayor - grosor / 2.0) : r;
+  };
+  const QPolygonF antes = puntos;
+  for (qsizetype i = cerrado ? 0 : 1; i < puntos.size(); ++i) {
+    const qsizetype j = i == 0 ? puntos.size() - 1 : i - 1;
+    const QPointF arista = antes[i] - antes[j];
+    for (const qsizetype k : {i, j}) {
+      if (std::fabs(arista.y()) <= recto) puntos[k].setY(ajustada(antes[k].y(), hoja.top(), hoja.bottom()));
+      if (std::fabs(arista.x()) <= recto) puntos[k].setX(ajustada(antes[k].x(), hoja.left(), hoja.right()));
+    }
+  }
+  return puntos;
+}
+
 std::vector<QLineF> rayadoCruzado(const QPolygonF& poligono, QPointF origen, double paso) {
   std::vector<QLineF> trazos;
   if (poligono.size() < 3 || !(paso > 0)) return trazos;

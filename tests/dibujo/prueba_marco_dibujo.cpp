@@ -138,14 +138,18 @@ TEST_F(Marco, UnaVentanaMayorGuardaLaVistaSinDeformarla) {
 
 TEST_F(Marco, LaLeyendaQuedaFijaEnLaEsquina) {
   MarcoPrueba m(estado, navegador);
-  for (const int veces : {1, 2}) {
-    m.GRAF.Resize(865 * veces, 433 * veces);
+  for (const int alto : {150, 433, 866}) {  // on a small sheet it keeps its size, so that each swatch shows its filling
+    m.GRAF.Resize(2 * alto, alto);
     const Lienzo& l = m.GRAF.lienzo;
+    const double factor = std::max(1.0, alto / 433.0);
     const std::size_t tirante = lugarDelRotulo(l, "Tirante");
     ASSERT_LT(tirante, l.primitivas().size());
-    const Punto en = std::get<PrimTexto>(l.primitivas()[tirante]).en;
-    EXPECT_NEAR((en.x - l.ScaleLeft()) / l.ScaleWidth() * 865, 813, 0.01);
-    EXPECT_NEAR((en.y - l.ScaleTop()) / l.ScaleHeight() * 433, 31, 0.01);
+    const PrimTexto& texto = std::get<PrimTexto>(l.primitivas()[tirante]);
+    EXPECT_NEAR((1 - (texto.en.x - l.ScaleLeft()) / l.ScaleWidth()) * 2 * alto, (865 - 813) * factor, 0.01);
+    EXPECT_NEAR((texto.en.y - l.ScaleTop()) / l.ScaleHeight() * alto, 31 * factor, 0.01);
+    EXPECT_NEAR(texto.letra.puntos * alto / 433, 7 * factor, 1e-9) << "as large as it looks";
+    const PrimCaja& muestra = std::get<PrimCaja>(l.primitivas()[tirante - 1]);
+    EXPECT_NEAR((muestra.b.x - muestra.a.x) / l.ScaleWidth() * 2 * alto, 8 * factor, 0.01);
   }
 }
 

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#include <QBuffer>
 #include <QImage>
 #include <QPainter>
+#include <QSvgGenerator>
 
 #include "plataforma/lienzo.h"
 #include "plataforma/medidas.h"
@@ -150,6 +152,44 @@ TEST(Pintor, EstilosDeLineaYAnchos) {
     EXPECT_LT(raya(e, 1), 0.9 * solida);
     EXPECT_GT(raya(e, 1), 0.3 * solida);
   }
+}
+
+TEST(Pintor, UnaLineaDeUnPixelCubrePixelesEnterosYEnUnVectorQuedaDondeEsta) {
+  Lienzo l = hoja();
+  l.FillStyle = EstiloRelleno::solido;
+  l.FillColor = l.ForeColor = color::cianClaro;
+  const auto esRojo = [](QColor c) { return c == QColor(255, 0, 0); };
+  for (const int escala : {1, 2, 3})
+    for (const double pixel :
+         {60.0, 60.1, 60.25, 60.5, 60.75, 60.99, 0.0, 200.0}) {  // the last two: on the sheet's edges
+      l.Cls();
+      l.LineCaja({-1, 106}, {11, 99}, color::cianClaro);
+      l.Line({0, 105 - pixel / 40}, {10, 105 - pixel / 40}, color::rojo);
+      l.Polyline({{pixel / 20, 105}, {pixel / 20, 100}}, color::rojo);
+      QImage i(400 * escala, 200 * escala, QImage::Format_RGB32);
+      i.setDevicePixelRatio(escala);
+      QPainter p(&i);
+      pintar(l, p, QRectF(0, 0, 400, 200));
+      p.end();
+      int filas = 0, columnas = 0, mezclados = 0;
+      for (int y = 0; y < i.height(); ++y) filas += esRojo(i.pixelColor(50 * escala, y));
+      for (int x = 0; x < i.width(); ++x) columnas += esRojo(i.pixelColor(x, 30 * escala));
+      for (int y = 0; y < i.height(); ++y)
+        for (int x = 0; x < i.width(); ++x)
+          mezclados += !esRojo(i.pixelColor(x, y)) && i.pixelColor(x, y) != QColor(0, 255, 255);
+      EXPECT_TRUE(filas == escala && columnas == escala && mezclados == 0)
+          << escala << ' ' << pixel << ": " << filas << ", " << columnas << ", " << mezclados;
+    }
+  QByteArray svg;
+  QBuffer memoria(&svg);
+  QSvgGenerator generador;
+  generador.setOutputDevice(&memoria);
+  l.Cls();
+  l.Polyline({{0, 105 - 60.25 / 40}, {10, 105 - 60.25 / 40}});
+  QPainter p(&generador);
+  pintar(l, p, QRectF(0, 0, 400, 200));
+  p.end();
+  EXPECT_TRUE(svg.contains("60.25")) << svg.toStdString();
 }
 
 TEST(Pintor, LoLejanoNoEstorba) {
