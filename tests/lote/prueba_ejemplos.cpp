@@ -1,6 +1,7 @@
 // The example projects: designs that an engineer would sign.
 #include <cmath>
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <set>
 
@@ -61,6 +62,20 @@ TEST(Ejemplos, EachBasinHoldsItsJumpWithAllDischarges) {
       const std::string veredicto = Diseno({archivo}).json["reportes"][reporte]["Text1"];
       EXPECT_TRUE(veredicto.starts_with("EL DISEÑO ES ACEPTABLE")) << archivo << ": " << veredicto;
     }
+}
+
+TEST(Ejemplos, TheManualShowsWhatItsDesignGives) {
+  std::ifstream archivo(std::string(RAIZ_PROYECTO) + "/docs/manual.md");
+  const std::string salida = correr({(carpetaEjemplos / "09-diseno-del-manual.cvr").string()}).salida;
+  int lineas = 0;
+  bool dentro = false;
+  for (std::string l; std::getline(archivo, l);) {
+    dentro = l == "    RESULTADOS" || (dentro && l.starts_with("    "));
+    if (!dentro) continue;
+    EXPECT_NE(salida.find(l.substr(4) + '\n'), std::string::npos) << l;
+    ++lineas;
+  }
+  EXPECT_EQ(lineas, 12);
 }
 
 TEST(Ejemplos, ChutesAreSoundDesigns) {
