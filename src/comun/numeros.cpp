@@ -5,6 +5,12 @@
 #include <charconv>
 #include <limits>
 #include <regex>
+#include <version>
+
+#ifndef __cpp_lib_to_chars
+#include <locale>
+#include <sstream>
+#endif
 
 namespace calvento {
 
@@ -86,6 +92,44 @@ std::string redondeoDecimal(double x, int decimales) {
   return d;
 }
 
+/// The number that a text of digits begins with, and how much of the text it is.
+struct Leido {
+  double valor;
+  std::size_t largo;
+  bool fueraDeRango;  ///< too large or too small for 8 bytes
+};
+
+#ifdef __cpp_lib_to_chars
+Leido leer(std::string_view t) {
+  double v = 0;
+  const auto r = std::from_chars(t.data(), t.data() + t.size(), v);
+  return {v, static_cast<std::size_t>(r.ptr - t.data()), r.ec == std::errc::result_out_of_range};
+}
+#else
+// a library that cannot read an 8-byte number this way: the same by a stream that knows no locale
+Leido leer(std::string_view t) {
+  std::size_t n = 0;
+  const auto digitos = [&] {
+    const std::size_t desde = n;
+    while (n < t.size() && esDigito(t[n])) ++n;
+    return n > desde;
+  };
+  digitos();
+  if (n < t.size() && t[n] == '.') ++n, digitos();
+  if (const std::size_t e = n; n < t.size() && (t[n] == 'e' || t[n] == 'E')) {
+    ++n;
+    if (n < t.size() && (t[n] == '+' || t[n] == '-')) ++n;
+    if (!digitos()) n = e;
+  }
+  std::istringstream flujo{std::string(t.substr(0, n))};
+  flujo.imbue(std::locale::classic());
+  double v = 0;
+  flujo >> v;
+  // it also fails for what is merely less than exact
+  return {v, n, flujo.fail() && (v == 0 || v >= std::numeric_limits<double>::max())};
+}
+#endif
+
 }  // namespace
 
 std::int16_t enteroCorto(Real v) {
@@ -103,11 +147,10 @@ Real Val(std::string_view t) {
   // from_chars would also take "inf" and "nan": a number begins with a digit or with a point and a digit
   const bool empieza = !t.empty() && (esDigito(t[0]) || (t[0] == '.' && t.size() > 1 && esDigito(t[1])));
   if (!empieza) return 0;
-  double v = 0;
-  const auto r = std::from_chars(t.data(), t.data() + t.size(), v);
-  if (r.ec == std::errc::result_out_of_range) {
+  auto [v, largo, fueraDeRango] = leer(t);
+  if (fueraDeRango) {
     // the range error does not tell too large from too small: the sign of the written exponent, or a leading zero, does
-    const std::string_view leido(t.data(), static_cast<std::size_t>(r.ptr - t.data()));
+    const std::string_view leido = t.substr(0, largo);
     const std::size_t e = leido.find_first_of("eE");
     const bool pequeno = e == std::string_view::npos ? !esDigito(leido[0]) || leido[0] == '0' : leido[e + 1] == '-';
     if (!pequeno) fallar(Motivo::desbordamiento);

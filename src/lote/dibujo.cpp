@@ -2,7 +2,6 @@
 
 #include <stdexcept>
 
-#include "cad/marco_exportar.h"
 #include "dibujo/marco_dibujo.h"
 #include "qt/exportar_dibujo.h"
 
@@ -17,19 +16,6 @@ void exportarDibujoDe(Sesion& sesion, const Opciones& opciones) {
     throw OpcionErronea("--vista " + opciones.vista + ": el dibujo tiene las vistas " + vistas);
   }
   exportarDibujo(ventana->GRAF.lienzo, archivoDeSalida(opciones.dibujo, sesion.archivo()));
-}
-
-void exportarDxfDe(Sesion& sesion, const Opciones& opciones) {
-  // as on the desktop, where the export is opened from the drawing, which computes the end of the structure
-  Aplicacion& programa = sesion.aplicacion();
-  programa.cargar(sesion.estructura()->ventanaDibujo);
-  auto* ventana = programa.cargar<MarcoExportar>(sesion.estructura()->ventanaExportar);
-  if (ventana == nullptr) throw std::runtime_error("el dibujo DXF no se pudo hacer");
-  const std::string archivo = archivoDeSalida(opciones.dxf, sesion.archivo());
-  sesion.nombrarArchivo(archivo);
-  ventana->Command3_Click();
-  sesion.nombrarArchivo({});
-  if (!ventana->motivo().empty()) throw std::runtime_error("--dxf " + archivo + ": " + ventana->motivo());
 }
 
 }  // namespace calvento::lote

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
+#include "comun/version.h"
 #include "plataforma/rejilla.h"
 
 namespace calvento::lote {
@@ -231,6 +232,8 @@ void escribirComprobaciones(EscritorJson& j, const Comprobaciones& todas) {
 }
 
 void escribirCabecera(EscritorJson& j, const std::string& archivo, const Estructura* estructura, bool calculado) {
+  j.clave("version");
+  j.texto(version());
   j.clave("archivo");
   j.texto(archivo);
   j.clave("estructura");

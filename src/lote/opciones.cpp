@@ -5,7 +5,9 @@
 #include <filesystem>
 #include <map>
 
+#include "comun/version.h"
 #include "lote/estructuras.h"
+#include "lote/pagina_man.h"
 
 namespace calvento::lote {
 
@@ -85,6 +87,7 @@ std::string archivoDeSalida(const std::string& patron, const std::string& proyec
 }
 
 std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* argv) {
+  const std::string nombreYVersion = "calvento-lote " + version();
   Opciones o;
   std::vector<std::string> campos;
   std::string veces = "0";
@@ -100,7 +103,8 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
   programa.get_formatter()->column_width(36);
   programa.footer(pie);
   programa.set_help_flag("-h,--ayuda,--help", "Muestra esta ayuda y termina")->group("Opciones");
-  programa.set_version_flag("--version", "calvento-lote 1.0", "Muestra la versión y termina")->group("Opciones");
+  programa.set_version_flag("--version", nombreYVersion, "Muestra la versión y termina")->group("Opciones");
+  programa.set_help_all_flag("--pagina-man")->group("");  // made once, when the program is built
   programa.add_option("ARCHIVO", o.archivos, "Proyectos, por su extensión: " + extensiones())
       ->required()
       ->type_name("");
@@ -118,29 +122,34 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
   programa.add_option("--veces", veces, "Calcula N veces más al final")->type_name("N");
   programa.add_option("--responder", responder, "Respuesta a toda pregunta; si, mientras no se diga otra cosa")
       ->type_name("si|no");
-  programa
-      .add_option("--dibujo", o.dibujo,
-                  "Guarda el dibujo de la estructura como SVG, PDF o PNG, por la\n"
-                  "extensión. En el nombre, {} es el nombre del proyecto: hace falta\n"
-                  "con más de un proyecto")
-      ->type_name("ARCHIVO");
-  programa
-      .add_option("--vista", o.vista,
-                  "Vista del dibujo; vistaTodo, mientras no se diga otra cosa. Con un\n"
-                  "nombre que no existe se dicen las que hay")
-      ->type_name("NOMBRE");
+  if constexpr (conQt) {
+    programa
+        .add_option("--dibujo", o.dibujo,
+                    "Guarda el dibujo de la estructura como SVG, PDF o PNG, por la\n"
+                    "extensión. En el nombre, {} es el nombre del proyecto: hace falta\n"
+                    "con más de un proyecto")
+        ->type_name("ARCHIVO");
+    programa
+        .add_option("--vista", o.vista,
+                    "Vista del dibujo; vistaTodo, mientras no se diga otra cosa. Con un\n"
+                    "nombre que no existe se dicen las que hay")
+        ->type_name("NOMBRE");
+  }
   programa
       .add_option("--dxf", o.dxf,
-                  "Guarda perfil y planta como dibujo DXF para programas de CAD;\n"
-                  "{} en el nombre, como en --dibujo")
+                  "Guarda perfil y planta como dibujo DXF para programas de CAD.\n"
+                  "En el nombre, {} es el nombre del proyecto: hace falta con más\n"
+                  "de un proyecto")
       ->type_name("ARCHIVO");
 
   try {
     programa.parse(argc, argv);
   } catch (const CLI::CallForHelp&) {
     return Informacion{programa.help()};
+  } catch (const CLI::CallForAllHelp&) {
+    return Informacion{paginaMan(programa)};
   } catch (const CLI::CallForVersion&) {
-    return Informacion{"calvento-lote 1.0\n"};
+    return Informacion{nombreYVersion + "\n"};
   } catch (const CLI::ParseError& error) {
     throw OpcionErronea(enEspanol(error, programa));
   }

@@ -7,6 +7,13 @@
 
 namespace calvento::lote {
 
+/// Whether this program paints: one that was built without Qt does not know the options for it.
+#ifdef CALVENTO_SIN_QT
+inline constexpr bool conQt = false;
+#else
+inline constexpr bool conQt = true;
+#endif
+
 /// VENTANA.CONTROL=TEXTO
 struct Asignacion {
   std::string ventana;

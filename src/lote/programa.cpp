@@ -18,7 +18,8 @@ enum Estado { calculados = 0, algunoNo = 1, errores = 2 };
 /// The files asked for beside the text. One that cannot be written is an error of the command, not of the design.
 Estado exportar(Sesion& sesion, const Opciones& opciones, std::ostream& err) {
   try {
-    if (!opciones.dibujo.empty()) exportarDibujoDe(sesion, opciones);
+    if constexpr (conQt)
+      if (!opciones.dibujo.empty()) exportarDibujoDe(sesion, opciones);
     if (!opciones.dxf.empty()) exportarDxfDe(sesion, opciones);
     return calculados;
   } catch (const std::exception& fallo) {

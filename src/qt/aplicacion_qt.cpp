@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QLocale>
 
+#include "comun/version.h"
 #include "qt/cadena.h"
 #include "qt/enlace.h"
 #include "qt/textos_es.h"
@@ -13,7 +14,7 @@ namespace calvento {
 AplicacionQt::AplicacionQt(int& argc, char** argv) : QApplication(argc, argv) {
   QLocale::setDefault(QLocale::c());
   setApplicationName(QStringLiteral("Calvento"));
-  setApplicationVersion(QStringLiteral("1.0"));
+  setApplicationVersion(aQt(version()));
   setQuitOnLastWindowClosed(false);  // the main window tells when the program ends
   instalarTextosEspanoles(*this);
 }

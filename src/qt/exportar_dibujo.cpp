@@ -14,8 +14,10 @@
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
+#include "comun/version.h"
 #include "modelo/archivo_proyecto.h"
 #include "qt/cadena.h"
+#include "qt/carpeta_sesion.h"
 #include "qt/pintor.h"
 
 namespace calvento {
@@ -47,7 +49,7 @@ void comoSvg(const Lienzo& lienzo, QIODevice& salida) {
 void comoPdf(const Lienzo& lienzo, QIODevice& salida) {
   const QSizeF puntos = QSizeF(lienzo.anchoPixeles(), lienzo.altoPixeles()) * 72.0 / pixelesPorPulgada;
   QPdfWriter escritor(&salida);
-  escritor.setCreator("Calvento");
+  escritor.setCreator(aQt("Calvento " + version()));
   escritor.setResolution(resolucionPdf);
   escritor.setPageSize(QPageSize(puntos, QPageSize::Point, {}, QPageSize::ExactMatch));
   escritor.setPageMargins(QMarginsF());
@@ -76,6 +78,7 @@ void asegurarAplicacionGrafica() {
   static char valor[] = "offscreen";
   static char* argumentos[] = {nombre, opcion, valor, nullptr};
   static int cuantos = 3;
+  static const CarpetaSesion carpeta;
   const QtMessageHandler antes = qInstallMessageHandler(callarCarpetas);
   static QGuiApplication aplicacion(cuantos, argumentos);
   qInstallMessageHandler(antes);

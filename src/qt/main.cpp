@@ -1,13 +1,45 @@
+#include <cstdio>
+#include <string_view>
+
 #include <QFileInfo>
 #include <QTimer>
 
+#include "comun/version.h"
 #include "modelo/proyecto.h"
 #include "qt/aplicacion_qt.h"
 #include "qt/cadena.h"
+#include "qt/carpeta_sesion.h"
 #include "qt/dialogos_qt.h"
 #include "qt/programa.h"
 
+namespace {
+
+constexpr const char* ayuda =
+    "Uso: calvento [PROYECTO…]\n"
+    "\n"
+    "Diseño hidráulico de rápidas, caídas inclinadas y caídas verticales. Abre cada PROYECTO (.cvr, .cvi, .cvv)\n"
+    "en la ventana de su estructura.\n"
+    "\n"
+    "  -h, --help, --ayuda   Muestra esta ayuda y termina\n"
+    "  --version             Muestra la versión y termina\n"
+    "\n"
+    "Para calcular sin ventanas: calvento-lote --ayuda\n";
+
+/// Answers on the terminal what needs no window; false where a window is asked for.
+bool contestar(int argc, char** argv) {
+  for (int i = 1; i < argc; ++i) {
+    const std::string_view a = argv[i];
+    if (a == "-h" || a == "--help" || a == "--ayuda") return std::fputs(ayuda, stdout), true;
+    if (a == "--version") return std::printf("calvento %s\n", calvento::version().c_str()), true;
+  }
+  return false;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+  if (contestar(argc, argv)) return 0;
+  const calvento::CarpetaSesion carpeta;
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
   calvento::AplicacionQt aplicacion(argc, argv);
   calvento::DialogosQt dialogos;

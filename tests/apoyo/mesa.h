@@ -29,13 +29,22 @@ class DialogosLibres : public Dialogos {
   std::optional<std::string> guardarArchivo(const OpcionesArchivo&) override { return {}; }
 };
 
+/// A parameter window: one kind knows the record, the other does not.
+template <class Parametros>
+Parametros nuevosParametros([[maybe_unused]] DesignState& estado, Navegador& navegador) {
+  if constexpr (std::is_constructible_v<Parametros, Navegador&>)
+    return Parametros(navegador);
+  else
+    return Parametros(estado, navegador);
+}
+
 /// A data window with all that it needs; boxes from a script unless others are given.
 template <class VentanaDeDatos, class Parametros, class Cajas = DialogosGuion>
 struct MesaDe {
   Cajas dialogos;
   DesignState estado;
   NavegadorMudo navegador;
-  Parametros parametros = nuevosParametros();
+  Parametros parametros = nuevosParametros<Parametros>(estado, navegador);
   VentanaDeDatos f{estado, parametros, dialogos, navegador};
 
   void poner(const Datos& datos) { ponerEn(f, datos); }
@@ -53,14 +62,6 @@ struct MesaDe {
     for (const char* m : menus)
       if (f.template buscar<Menu>(m)->Enabled) s.append(s.empty() ? "" : " ").append(m);
     return s;
-  }
-
- private:
-  Parametros nuevosParametros() {
-    if constexpr (std::is_constructible_v<Parametros, Navegador&>)
-      return Parametros(navegador);
-    else
-      return Parametros(estado, navegador);
   }
 };
 

@@ -4,10 +4,8 @@
 #include <variant>
 #include <vector>
 
-#include "apoyo/dialogos_guion.h"
-#include "apoyo/navegador_mudo.h"
+#include "apoyo/mesa.h"
 #include "cad/cad_grabado.h"
-#include "modelo/design_state.h"
 #include "plataforma/lienzo.h"
 
 namespace calvento {
@@ -16,9 +14,7 @@ namespace calvento {
 /// has shown, one behind the other.
 template <class Formulario, class Parametros>
 struct MesaExportar {
-  /// What the parameter window is made of follows the record.
-  template <class... De>
-  explicit MesaExportar(DesignState registro, De&... de) : estado(std::move(registro)), parametros(de...) {
+  explicit MesaExportar(DesignState registro) : estado(std::move(registro)) {
     cad.avance = [this] { return f.osProgress1.Value.valor(); };
     f.osProgress1.alCambiar = [this] {
       if (f.osProgress1.Visible && (avances.empty() || avances.back() != f.osProgress1.Value.valor()))
@@ -30,7 +26,7 @@ struct MesaExportar {
   DialogosGuion dialogos;
   NavegadorMudo navegador;
   DesignState estado;
-  Parametros parametros;
+  Parametros parametros = nuevosParametros<Parametros>(estado, navegador);
   CadGrabado cad;
   Formulario f{estado, parametros, dialogos, navegador, cad};
   std::vector<double> avances;

@@ -74,16 +74,15 @@ class ExportarCaida : public testing::Test {};
 using Caidas = testing::Types<Inclinada, Vertical>;
 TYPED_TEST_SUITE(ExportarCaida, Caidas);
 
-/// The parameter windows are made of different things.
 template <class Caida>
 struct Mesa;
 template <>
 struct Mesa<Inclinada> : MesaExportar<Form9, Form2> {
-  explicit Mesa(const char* proyecto) : MesaExportar(calculado<Inclinada>(proyecto), navegador) {}
+  explicit Mesa(const char* proyecto) : MesaExportar(calculado<Inclinada>(proyecto)) {}
 };
 template <>
 struct Mesa<Vertical> : MesaExportar<Form18, Form25> {
-  explicit Mesa(const char* proyecto) : MesaExportar(calculado<Vertical>(proyecto), estado, navegador) {}
+  explicit Mesa(const char* proyecto) : MesaExportar(calculado<Vertical>(proyecto)) {}
 };
 
 TYPED_TEST(ExportarCaida, OutlinesAreThoseOfTheCanvasAndTheRecordStaysAsItWas) {

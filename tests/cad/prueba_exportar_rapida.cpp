@@ -15,7 +15,7 @@ namespace {
 using Clase = CadGrabado::Clase;
 
 struct MesaRapida : MesaExportar<Form12, Form2> {
-  explicit MesaRapida(int numTramos = 1) : MesaExportar(rapidaDeMano(numTramos), navegador) {
+  explicit MesaRapida(int numTramos = 1) : MesaExportar(rapidaDeMano(numTramos)) {
     estado.progresivaFinPoza = 1034.875;
   }
 };

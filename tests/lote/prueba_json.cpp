@@ -61,7 +61,7 @@ TEST(ObjetoJson, HasItsPartsInTheirOrderAndTellsTheDesign) {
   ASSERT_EQ(c.estado, 0) << c.errores;
   const auto d = c.objetos().at(0);
   EXPECT_EQ(claves(d),
-            "archivo estructura calculado mensajes estado perfil perfilCaida ventana reportes comprobaciones");
+            "version archivo estructura calculado mensajes estado perfil perfilCaida ventana reportes comprobaciones");
   EXPECT_EQ(claves(d["ventana"]), "titulo campos etiquetas panel1 menus Grid1");
   EXPECT_EQ(claves(d["ventana"]["etiquetas"]), "Label27 Label35 Label41");
   EXPECT_EQ(d["archivo"], canal);

@@ -1,0 +1,7 @@
+#include "comun/version.h"
+
+namespace calvento {
+
+std::string version() { return CALVENTO_VERSION; }
+
+}  // namespace calvento
