@@ -67,8 +67,11 @@ void conTitulos(QTextDocument& documento, int nivel, const std::function<void(QT
   }
 }
 
-/// The looks that a Markdown text lacks. `punto` is the length of a point in the document's units.
-void vestir(QTextDocument& documento, double punto, double ancho) {
+/// Lengths of formats are pixels of 96 to the inch, whatever the device of the document is.
+constexpr double punto = 96.0 / 72;
+
+/// The looks that a Markdown text lacks; pictures are no wider than `ancho`.
+void vestir(QTextDocument& documento, double ancho) {
   static constexpr double tamanos[] = {0, 20, 15, 12, 10.5};
   conTitulos(documento, 4, [&](QTextCursor& c, int nivel) {
     QTextCharFormat f;
@@ -96,7 +99,8 @@ void vestir(QTextDocument& documento, double punto, double ancho) {
                         (b.blockFormat().nonBreakableLines() && !c.currentTable());
     QTextBlockFormat bloque;
     if (codigo || b.blockFormat().intProperty(QTextFormat::BlockQuoteLevel) > 0) bloque.setBackground(fondo);
-    if (!c.currentTable() && b.blockFormat().headingLevel() == 0) bloque.setLineHeight(118, QTextBlockFormat::ProportionalHeight);
+    if (!c.currentTable() && b.blockFormat().headingLevel() == 0)
+      bloque.setLineHeight(118, QTextBlockFormat::ProportionalHeight);
     c.mergeBlockFormat(bloque);
     for (auto it = b.begin(); !it.atEnd(); ++it) {
       const QTextFragment trozo = it.fragment();
@@ -132,9 +136,7 @@ void vestir(QTextDocument& documento, double punto, double ancho) {
     auto* tabla = qobject_cast<QTextTable*>(marco);
     if (tabla == nullptr) continue;
     QTextTableFormat f = tabla->format();
-    f.setBorder(0.6 * punto);
-    f.setBorderBrush(raya);
-    f.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+    f.setBorder(0);
     f.setBorderCollapse(true);
     f.setCellSpacing(0);
     f.setCellPadding(3.5 * punto);
@@ -143,11 +145,14 @@ void vestir(QTextDocument& documento, double punto, double ancho) {
     f.setBottomMargin(8 * punto);
     f.setWidth(QTextLength(QTextLength::PercentageLength, 100));
     tabla->setFormat(f);
-    for (int col = 0; col < tabla->columns(); ++col) {
-      QTextTableCell celda = tabla->cellAt(0, col);
-      QTextCharFormat cabeza = celda.format();
-      cabeza.setBackground(fondo);
-      celda.setFormat(cabeza);
+    for (int celdas = tabla->rows() * tabla->columns(), i = 0; i < celdas; ++i) {
+      QTextTableCell celda = tabla->cellAt(i / tabla->columns(), i % tabla->columns());
+      QTextTableCellFormat suya = celda.format().toTableCellFormat();
+      suya.setBottomBorder(1);
+      suya.setBottomBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+      suya.setBottomBorderBrush(raya);
+      if (celda.row() == 0) suya.setBackground(fondo);
+      celda.setFormat(suya);
     }
   }
 }
@@ -207,15 +212,21 @@ void preparar(QTextDocument& documento, const QString& markdown, const QString& 
 }
 
 /// No heading stands alone at the foot of a page.
-void cuidarPies(QTextDocument& documento, double punto, double alto) {
+void cuidarPies(QTextDocument& documento, double minimo, double alto) {
   const auto* orden = documento.documentLayout();
+  orden->documentSize();
   conTitulos(documento, 4, [&](QTextCursor& c, int) {
     const QRectF r = orden->blockBoundingRect(c.block());
-    const double resto = alto - std::fmod(r.top(), alto);
-    if (resto > r.height() + 60 * punto) return;
+    const double fin = alto * (1 + std::floor(r.top() / alto));
+    // what follows may begin on this page and have its first line, a picture, on the next one
+    const QTextBlock b = c.block().next();
+    const double primera = b.layout()->lineCount() > 0 ? b.layout()->lineAt(0).rect().bottom() : 0;
+    const double sigue = orden->blockBoundingRect(b).top() + primera;
+    if (r.bottom() + minimo < fin && sigue < fin) return;
     QTextBlockFormat salto;
     salto.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     c.mergeBlockFormat(salto);
+    orden->documentSize();  // the rest is laid out anew
   });
 }
 
@@ -241,38 +252,70 @@ void portada(Hojas& hojas, const QString& titulo, const QString& version) {
 
 struct Entrada {
   QString titulo;
-  int nivel, pagina;
+  int nivel, pagina;  ///< counted from the first page of the text
 };
 
-void contenido(Hojas& hojas, const std::vector<Entrada>& entradas) {
-  const double pt = hojas.punto(), ancho = hojas.hoja().width();
-  QPainter& p = hojas.pintor();
-  hojas.pasar();
-  QFont f(letra, 15);
-  f.setBold(true);
-  p.setFont(f);
-  p.setPen(azul);
-  p.drawText(QRectF(0, 0, ancho, 30 * pt), Qt::AlignLeft, "Contenido");
-  double y = 36 * pt;
-  for (const Entrada& e : entradas) {
-    QFont g(letra);
-    g.setPointSizeF(e.nivel == 2 ? 10.5 : 9.5);
-    g.setBold(e.nivel == 2);
-    p.setFont(g);
-    p.setPen(Qt::black);
-    if (e.nivel == 2) y += 5 * pt;
-    const QRectF linea((e.nivel - 2) * 16 * pt, y, ancho - (e.nivel - 2) * 16 * pt, 15 * pt);
-    p.drawText(linea, Qt::AlignLeft | Qt::AlignVCenter, e.titulo);
-    p.drawText(linea, Qt::AlignRight | Qt::AlignVCenter, QString::number(e.pagina));
-    const QFontMetricsF m(g, p.device());
-    p.setPen(QPen(raya, 0.8 * pt, Qt::DotLine));
-    const double base = linea.bottom() - 4 * pt;
-    p.drawLine(QPointF(linea.left() + m.horizontalAdvance(e.titulo) + 6 * pt, base),
-               QPointF(linea.right() - m.horizontalAdvance(QString::number(e.pagina)) - 6 * pt, base));
-    y = linea.bottom();
+/// The list of chapters, each with its page; how many pages the list takes is known before it is written.
+class Contenido {
+ public:
+  Contenido(Hojas& hojas, std::vector<Entrada> entradas) : hojas_(hojas), entradas_(std::move(entradas)) {}
+
+  void escribir() {
+    const int antes = hojas_.numero() + recorrer(0, false);
+    recorrer(antes, true);
   }
-  if (y > hojas.texto().height()) terminar("el contenido del manual no cabe en una página");
-}
+
+ private:
+  /// Goes through the list, and writes it or only counts; returns the number of its pages.
+  int recorrer(int paginasAntes, bool escribe) {
+    const double pt = hojas_.punto();
+    int paginas = 0;
+    double y = hojas_.texto().height();
+    for (const Entrada& e : entradas_) {
+      if (y + 24 * pt > hojas_.texto().height()) {
+        ++paginas;
+        y = 36 * pt;
+        if (escribe) cabeza();
+      }
+      if (e.nivel == 2) y += 5 * pt;
+      if (escribe) renglon(e, y, e.pagina + paginasAntes);
+      y += 15 * pt;
+    }
+    return paginas;
+  }
+
+  void cabeza() {
+    hojas_.pasar();
+    QFont f(letra, 15);
+    f.setBold(true);
+    hojas_.pintor().setFont(f);
+    hojas_.pintor().setPen(azul);
+    hojas_.pintor().drawText(QRectF(0, 0, hojas_.hoja().width(), 30 * hojas_.punto()), Qt::AlignLeft, "Contenido");
+  }
+
+  void renglon(const Entrada& e, double y, int pagina) {
+    const double pt = hojas_.punto();
+    QPainter& p = hojas_.pintor();
+    QFont f(letra);
+    f.setPointSizeF(e.nivel == 2 ? 10.5 : 9.5);
+    f.setBold(e.nivel == 2);
+    p.setFont(f);
+    p.setPen(Qt::black);
+    const double sangria = (e.nivel - 2) * 16 * pt;
+    const QRectF linea(sangria, y, hojas_.hoja().width() - sangria, 15 * pt);
+    const QString numero = QString::number(pagina);
+    p.drawText(linea, Qt::AlignLeft | Qt::AlignVCenter, e.titulo);
+    p.drawText(linea, Qt::AlignRight | Qt::AlignVCenter, numero);
+    const QFontMetricsF medidas(f, p.device());
+    const double base = linea.bottom() - 4 * pt;
+    p.setPen(QPen(raya, 0.8 * pt, Qt::DotLine));
+    p.drawLine(QPointF(linea.left() + medidas.horizontalAdvance(e.titulo) + 6 * pt, base),
+               QPointF(linea.right() - medidas.horizontalAdvance(numero) - 6 * pt, base));
+  }
+
+  Hojas& hojas_;
+  std::vector<Entrada> entradas_;
+};
 
 void hacerPdf(const QString& markdown, const QString& carpeta, const QString& archivo, const QString& version) {
   // the title goes to the cover, and the list of chapters becomes one with page numbers
@@ -292,24 +335,24 @@ void hacerPdf(const QString& markdown, const QString& carpeta, const QString& ar
   QTextDocument documento;
   documento.documentLayout()->setPaintDevice(&pdf);
   preparar(documento, cuerpo, carpeta, 10);
-  vestir(documento, hojas.punto(), hojas.texto().width());
+  vestir(documento, hojas.texto().width() / hojas.punto() * punto);
   documento.setPageSize(hojas.texto());
-  cuidarPies(documento, hojas.punto(), hojas.texto().height());
+  cuidarPies(documento, 60 * hojas.punto(), hojas.texto().height());
 
   std::vector<Entrada> entradas;
   conTitulos(documento, 3, [&](QTextCursor& c, int nivel) {
     const double y = documento.documentLayout()->blockBoundingRect(c.block()).top();
-    entradas.push_back({c.block().text(), nivel, 3 + static_cast<int>(y / hojas.texto().height())});
+    entradas.push_back({c.block().text(), nivel, 1 + static_cast<int>(y / hojas.texto().height())});
   });
   portada(hojas, nombre, version);
-  contenido(hojas, entradas);
+  Contenido(hojas, std::move(entradas)).escribir();
   hojas.pintar(documento);
 }
 
 void hacerHtml(const QString& markdown, const QString& carpeta, const QString& archivo) {
   QTextDocument documento;
   preparar(documento, markdown, carpeta, 10.5);
-  vestir(documento, 1, 720);
+  vestir(documento, 720);
   QString html = documento.toHtml();
   html.replace("<head>",
                "<head><meta charset=\"utf-8\" /><title>Manual del usuario de Calvento</title>"
