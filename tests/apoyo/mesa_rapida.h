@@ -16,7 +16,6 @@ inline Datos rapidaDeTresTramos() {
           {"Text3", "417.25"},  {"Text27", "410.10"}, {"Text2", "388.75"}, {"Text4", "387.20"}, {"Text21", "2"},
           {"Text22", "1.5"},    {"Text26", "10"}};
 }
-inline constexpr const char* avisoAnchoDeTresTramos = "Ancho de poza debe ser menor de: 2.718";
 
 /// Sensible data of a chute of one reach that calculates without a box but the one of the basin type.
 inline Datos rapidaDeUnTramo() {
@@ -32,17 +31,6 @@ inline Datos rapidaDeUnTramo() {
 template <class Cajas = DialogosGuion>
 struct Mesa : MesaDe<Form10, Form2, Cajas> {
   Form2& form2 = this->parametros;
-
-  std::vector<Menu*> menusDeResultados() {
-    auto& w = this->f;
-    return {&w.mngrafico, &w.mntabla, &w.mntanque, &w.mnst, &w.mntperfil, &w.mntrayectoria, &w.mnformondas};
-  }
-  /// How many of the seven result menus are enabled.
-  int resultadosAbiertos() {
-    int n = 0;
-    for (const Menu* m : menusDeResultados()) n += m->Enabled ? 1 : 0;
-    return n;
-  }
 };
 using MesaRapida = Mesa<>;
 

@@ -34,25 +34,4 @@ struct MesaExportar {
 
 using Contornos = std::vector<std::vector<Punto>>;
 
-/// Outlines that a routine of a figure paints, as station and elevation.
-template <class Figura>
-Contornos contornos(const Figura& figura, void (Figura::*rutina)(Lienzo&) const, double inicio) {
-  Lienzo lienzo(863, 431);
-  (figura.*rutina)(lienzo);
-  Contornos r;
-  for (const Primitiva& p : lienzo.primitivas()) {
-    if (const auto* a = std::get_if<PrimPoligono>(&p)) r.push_back(a->puntos);
-    if (const auto* a = std::get_if<PrimPolilinea>(&p)) r.push_back(a->puntos);
-  }
-  for (auto& contorno : r)
-    for (Punto& p : contorno) p.x += inicio;
-  return r;
-}
-
-inline Contornos puntosDe(const std::vector<CadGrabado::Entidad>& entidades) {
-  Contornos r;
-  for (const auto& e : entidades) r.push_back(e.puntos);
-  return r;
-}
-
 }  // namespace calvento

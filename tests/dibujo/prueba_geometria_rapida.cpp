@@ -9,18 +9,6 @@ namespace {
 
 // The expected points and areas are worked apart from the program, from the round numbers of rapidaDeMano.
 
-TEST(GeometriaRapida, WaterBodyOfOneReach) {
-  const DesignState e = rapidaDeMano();
-  const auto agua = GeometriaRapida(e).agua();
-  comparar(agua, {{0, -9, 110.09}, {1, -9, 111.59}, {3, -0.4, 111.2}, {4, 0, 111}, {5, 5, 109.35}}, "canal", 57);
-  comparar(agua, {{7, 20, 105.3}, {8, 20.4, 105.1925}, {12, 22, 104.6125}, {17, 24, 103.55}}, "trajectory");
-  // the jump: toe, dip under y1, fall to 0.3 y2, rise to y2 at the middle of the basin
-  comparar(agua, {{18, 25, 103}, {20, 25.24, 102.9375}, {23, 26.2, 103.5}, {32, 29, 105.25}}, "jump");
-  comparar(agua, {{34, 42.875, 105.17}, {36, 37.875, 103.97}, {38, 33, 102.75}, {41, 24, 103.25}}, "bed");
-  comparar(agua, {{45, 22.4, 104.13}, {51, 20, 105}, {54, -0.5, 110.2}, {55, -0.88235294, 110.00882353}}, "bed");
-  EXPECT_NEAR(area(agua), 52.33554559, 1e-5);
-}
-
 TEST(GeometriaRapida, ReachOfAProfileRowIsTakenFromItsNumber) {
   DesignState e = rapidaDeMano(2);
   // few rows, the last beyond the joint: all belong to the first reach, which falls 0.1
@@ -72,73 +60,11 @@ TEST(GeometriaRapida, ConcreteOfTheBasinWithAndWithoutRamps) {
   comparar(c, {{3, 24, 102.75}, {4, 24, 103.25}, {28, 24, 103.1}, {29, 24, 102.6}}, "vertical entrance", 36);
 }
 
-TEST(GeometriaRapida, LiningOfTheCanals) {
-  DesignState e = rapidaDeMano();
-  auto c = GeometriaRapida(e).canal();
-  comparar(c, {{0, 0, 110}, {1, -0.4, 110.2}, {2, -0.5, 110.2}, {3, -0.88235294, 110.00882353}}, "one", 10);
-  comparar(c, {{5, -9, 109.989995}, {6, -0.01282350, 109.90012824}, {7, 20, 104.89692236}, {8, 20, 105}}, "one");
-  comparar(GeometriaRapida(rapidaDeMano(2)).canal(), {{7, 10, 108.89950124}, {8, 20, 104.89229670}}, "two", 12);
-  const DesignState tres = rapidaDeMano(3);
-  c = GeometriaRapida(tres).canal();
-  comparar(c, {{7, 8, 109.39980488}, {8, 12, 108.39692236}, {9, 20, 104.89084884}, {11, 12, 108.5}}, "three", 14);
-  const auto abajo = GeometriaRapida(tres).canalAbajo();
-  comparar(abajo, {{0, 37.875, 103.97}, {1, 42.875, 103.92}, {2, 42.875, 103.819995}}, "downstream", 5);
-  e.sTramo1 = e.sArriba;  // no corner under the control section: it repeats the point before it
-  comparar(GeometriaRapida(e).canal(), {{5, -9, 109.989995}, {6, -9, 109.989995}}, "even slope", 10);
-}
-
-TEST(GeometriaRapida, TopOfLiningMeetsTheRampWhereBothLinesCross) {
-  // chute: 110 - 0.25 x; 109 - 0.4 (x - 10); 108.5 - 0.4375 (x - 12). Ramp: 103.25 + (24 - x) / 2. All + 0.8
-  const std::initializer_list<Esperado> juntas[] = {
-      {{2, 5, 109.55}, {3, 21, 105.55}},
-      {{2, 5, 110.3}, {3, 10, 109.8}, {4, 22.5, 104.8}},
-      {{2, 5, 110.4875}, {3, 8, 110.3}, {4, 12, 109.3}, {5, 24, 104.05}},
-  };
-  for (const int tramos : {1, 2, 3}) {
-    const auto c = GeometriaRapida(rapidaDeMano(tramos)).corona();
-    const std::size_t n = static_cast<std::size_t>(tramos) + 7;
-    comparar(c, juntas[tramos - 1], "joints", n);
-    comparar(c, {{0, -9, 112.09}, {1, 0, 112}, {n - 3, 33, 105.75}, {n - 2, 37.875, 105.72}}, "top");
-  }
-}
-
-TEST(GeometriaRapida, EnergyLine) {
-  auto l = GeometriaRapida(rapidaDeMano()).energia();
-  comparar(l, {{0, -9, 111.66339450}, {1, 0, 111.40387360}, {2, 20, 107.13486239}, {3, 25, 105.93577982}}, "one", 8);
-  comparar(l, {{4, 29, 105.30096840}, {5, 33, 105.30096840}, {6, 33, 105.36467890}, {7, 42.875, 105.28467890}}, "one");
+TEST(GeometriaRapida, WithoutAreaTheEnergyLineKeepsTheElevationBefore) {
   DesignState e = rapidaDeMano(3);
-  comparar(GeometriaRapida(e).energia(), {{2, 8, 110.61855250}, {3, 12, 109.81549439}}, "three reaches", 10);
-  e.bRapida = 0;  // no area, no velocity: the elevations at the control section and the joints keep the one before
-  l = GeometriaRapida(e).energia();
-  comparar(l, {{1, 0, 111.66339450}, {3, 12, 111.66339450}, {4, 20, 107.13486239}}, "no width", 10);
-}
-
-TEST(GeometriaRapida, PlanHatchAndControlPoints) {
-  const DesignState e = rapidaDeMano(3);
-  const GeometriaRapida g(e);
-  const PlantaPoza planta = g.planta();
-  const auto anchos = planta.anchos();
-  const auto agua = aguaPlanta(anchos, 120);
-  comparar(agua, {{1, -4, 117}, {2, 0, 119}, {3, 20, 119}, {4, 25, 118.5}, {6, 34.875, 118.5}}, "water", 19);
-  comparar(agua, {{7, 37.875, 117.25}, {9, 42.875, 122.75}, {12, 33, 121.5}, {18, -9, 117}}, "water");
-  const auto muro = muroPlanta(anchos, caraExterior(anchos), 120, 1);
-  comparar(muro, {{0, -9, 123}, {8, 42.875, 122.75}, {9, 42.875, 122.9}, {17, -9, 123.15}}, "upper", 19);
-  comparar(muroPlanta(anchos, caraExterior(anchos), 120, -1), {{9, 42.875, 117.1}, {17, -9, 116.85}}, "lower");
-
-  // the bed widens by 1 over 5 m of curve and ramp: at 4 m it is 2.8 wide
-  EXPECT_NEAR(planta.medioAnchoPT(), 1.4, 1e-9);
-  const auto rayas = planta.rayado(120);
-  ASSERT_EQ(rayas.size(), 10U);
-  const Segmento esperadas[] = {{{24, 120}, {24.5, 120}},
-                                {{24, 120 - 1.4 / 3}, {25, 120 - 1.4 / 3}},
-                                {{34.875, 119.5}, {33, 119.5}},
-                                {{24, 120 + 2.8 / 3}, {24.5, 120 + 2.8 / 3}},
-                                {{33.9375, 121}, {34.875, 121}}};
-  for (const auto& s : esperadas) EXPECT_EQ(std::count(rayas.begin(), rayas.end(), s), 1) << s.a.x << ' ' << s.a.y;
-
-  const auto control = g.puntosControl();
-  comparar(control, {{0, -4, 110.04}, {2, 8, 109.5}, {3, 12, 108.5}, {5, 24, 103.25}}, "control points", 10);
-  comparar(control, {{6, 25, 102.75}, {7, 33, 102.75}, {8, 34.875, 104}, {9, 37.875, 103.97}}, "control points");
+  e.bRapida = 0;
+  comparar(GeometriaRapida(e).energia(), {{1, 0, 111.66339450}, {3, 12, 111.66339450}, {4, 20, 107.13486239}}, "energy",
+           10);
 }
 
 TEST(GeometriaRapida, WithoutTransitionsTheStationsFallTogether) {

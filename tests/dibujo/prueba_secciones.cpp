@@ -96,66 +96,6 @@ DesignState estado() {
   return e;
 }
 
-std::string nombres(const std::vector<SeccionNombrada>& secciones) {
-  std::string n;
-  for (const SeccionNombrada& s : secciones) n += (n.empty() ? "" : ", ") + s.nombre;
-  return n;
-}
-
-TEST(ListaSecciones, PorEstructuraYRegimen) {
-  DesignState e = estado();
-  const std::string cabeza = "Canal aguas arriba, Sección de control, ", pie = "Poza, Canal aguas abajo";
-  const std::string dos = "Canal rápida tramo 1, Canal rápida tramo 2, ";
-  const std::string rapida[] = {"", cabeza + "Canal rápida, " + pie, cabeza + dos + pie,
-                                cabeza + dos + "Canal rápida tramo 3, " + pie};
-  for (std::int16_t n = 0; n <= 3; ++n) {
-    e.numTramos = n;
-    EXPECT_EQ(nombres(seccionesRapida(e)), rapida[n]);
-  }
-  EXPECT_EQ(nombres(seccionesInclinada(e)), cabeza + "Canal tramo inclinado, " + pie);
-  e.frArriba = 1.2;
-  EXPECT_EQ(nombres(seccionesInclinada(e)), "Canal aguas arriba, Canal tramo inclinado, " + pie);
-  e.frArriba = 1;
-  EXPECT_EQ(nombres(seccionesInclinada(e)), "");
-  EXPECT_EQ(nombres(seccionesVertical(e)), cabeza + pie);
-}
-
-TEST(ListaSecciones, LosTramosConElTiranteNormalDeSuPendiente) {
-  DesignState e = estado();
-  const struct {
-    std::int16_t tramos;
-    std::size_t lugar;
-    double cota, S;
-  } casos[] = {{1, 2, 40, 0.1}, {2, 2, 55, 0.1}, {2, 3, 50, 0.2}, {3, 2, 55, 0.1}, {3, 3, 50, 0.2}, {3, 4, 40, 0.4}};
-  for (const auto& c : casos) {
-    e.numTramos = c.tramos;
-    const DatosSeccion s = seccionesRapida(e).at(c.lugar).datos();
-    EXPECT_EQ(s.c.valor(), c.cota) << c.tramos;
-    EXPECT_EQ(s.H.valor(), 1);
-    const double y = s.y.valor(), A = (2 + 0.5 * y) * y, P = 2 + 2 * y * std::sqrt(1.25);
-    EXPECT_NEAR(A * std::pow(A / P, 2.0 / 3) * std::sqrt(c.S) / 0.015, 4, 0.02) << c.tramos;
-  }
-}
-
-TEST(ListaSecciones, LasDeLasCaidas) {
-  const DesignState e = estado();
-  const auto inclinada = seccionesInclinada(e), vertical = seccionesVertical(e);
-  const struct {
-    DatosSeccion s;
-    double c, H, y, cerca, b, z;  // the solver stops within a thousandth
-  } casos[] = {{inclinada.at(1).datos(), 40, 1.5, 0.76672, 1e-3, 1.8, 0.25},
-               {inclinada.at(2).datos(), 38, 1, 0.5, 1e-6, 2.1, 0.25},
-               {vertical.at(1).datos(), 40, 1.5, std::cbrt(16 / 3.24 / 9.81), 1e-3, 1.8, 0},
-               // the drop's height and the wall above it
-               {vertical.at(2).datos(), 36, 5.5, 2, 1e-6, 3, 0}};
-  for (const auto& k : casos) {
-    const Real son[] = {k.s.c, k.s.H, k.s.b, k.s.z};
-    const double deben[] = {k.c, k.H, k.b, k.z};
-    for (int i = 0; i < 4; ++i) EXPECT_NEAR(son[i].valor(), deben[i], 1e-6) << k.c << ' ' << i;
-    EXPECT_NEAR(k.s.y.valor(), k.y, k.cerca) << k.c;
-  }
-}
-
 TEST(VentanaSecciones, LasFlechasDanLaVuelta) {
   NavegadorMudo navegador;
   DesignState e = estado();

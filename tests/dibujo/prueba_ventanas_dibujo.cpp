@@ -93,36 +93,6 @@ TEST_F(VentanasDibujo, SlantedLabelsOfTheChuteBeforeOrAfterTheUprightOnes) {
   }
 }
 
-TEST_F(VentanasDibujo, LabelsOfTheInclinedDrop) {
-  EXPECT_EQ(textos(f4),
-            "|1:2|1:1.5|s=-0.01|Q= 3m³/s; V=1.2m/s; Yn=1.2m|Línea Gradiente de Energía|Yn=1.1m; V=1.5m/s|s=-0.01|"
-            "Est:0+500.00|E:110.000|Est:0+501.50|E:109.500|Est:0+506.50|E:107.000|Est:0+514.00|E:108.000|R= 2.5|"
-            "Canal Aguas Arriba|Sección de control|Yc=0.8m|0.25|P.C.|P.T.|3|2|1.5|5|6|1.5|3|Y1=0.2m|Y2=2m|h= 1.00|"
-            "Yn= 1.1|Proyección de canal|Canal Aguas Abajo|4.50|1.50|2.00|2.00|4.30|PLANTA|SECCION LONGITUDINAL|"
-            "LEYENDA|Tirante|Rasante|Canal|");
-  EXPECT_EQ(buscar("R= 2.5", f4)->en, (Punto{0, 107.5})) << "at the centre of the curve";
-
-  inclinada.frArriba = 1.8F, inclinada.sobreelevacion = 0, inclinada.profPoza = 0;
-  const std::string rapido = textos(f4);
-  EXPECT_FALSE(dice(rapido, "|Yc=")) << "no critical depth in a fast canal";
-  EXPECT_FALSE(dice(rapido, "|0.25|"));
-  EXPECT_FALSE(dice(rapido, "|1:1.5|")) << "a basin without depth has no ramp";
-}
-
-TEST_F(VentanasDibujo, LabelsOfTheVerticalDrop) {
-  // obstacles 0.8 × 0.5 high, 2 / 0.4 = 5 of 0.2; the contraction is noted at both walls
-  EXPECT_EQ(textos(f17),
-            "|1.750|Altura= 0.4m|Ancho y espaciamiento= 0.2m|Nro de Bloques= 5|Contracción lateral= 0.25|"
-            "Contracción lateral= 0.25|1:1|s=-0.01|Q= 2m³/s; V=1.2m/s; Yn=0.8m|Línea Gradiente de Energía|"
-            "Yn=0.9m; V=1m/s|s=-0.01|Proyección de canal|Est:0+500.00|E:110.000|Est:0+504.50|E:108.000|"
-            "Canal Aguas Arriba|Yc=0.5m|3|2|4|Y1=0.2m|Y2=1.2m|h=0.50|H=2.50|0.5|2.000|Canal Aguas Abajo|3.00|1.50|2.00|"
-            "3.20|PLANTA|SECCION LONGITUDINAL|LEYENDA|Tirante|Rasante|Canal|");
-  // the small depth is written where the nappe's lower side ends: the water has left its run in the record
-  EXPECT_NEAR(buscar("Y1=0.2m", f17)->en.x, 1.26491106, 1e-6);
-  // the discharge stands at half the depth of the last row of the drawdown
-  EXPECT_NEAR(buscar("Q= 2m³/s; V=1.2m/s; Yn=0.8m", f17)->en.y, 110.075 + 0.4 + altoTexto() / 2500.0, 1e-6);
-}
-
 TEST_F(VentanasDibujo, NotesOfObstaclesAndVentilationOnlyWhereThereAreSuch) {
   // the notes are lines one below the other, upright in both orders of redrawing
   for (const char* vista : {"vistaTodo", "vistaTanque"}) {

@@ -11,41 +11,6 @@ class Archivos : public testing::Test {
   const std::string canal = carpeta.escribir("canal.cvr", ProyectoRapida().contenido());
 };
 
-TEST_F(Archivos, WhatIsNoProjectIsToldAndCountedByItsKind) {
-  std::filesystem::create_directory(carpeta.en("carpeta.cvr"));
-  const std::string entero = ProyectoRapida().contenido();
-  const struct {
-    std::string archivo;
-    int estado;
-    const char* dice;
-  } casos[] = {
-      {carpeta.en("no-esta.cvr"), 2, "no-esta.cvr"},
-      {carpeta.en("carpeta.cvr"), 2, "carpeta"},
-      {carpeta.escribir("canal.txt", entero), 2, "extensión"},
-      {carpeta.escribir("vacio.cvr", ""), 1, "incompleto"},
-      {carpeta.escribir("cortado.cvr", entero.substr(0, 60)), 1, "incompleto"},
-      {carpeta.escribir("binario.cvr", std::string("\x7f"
-                                                   "ELF\0\1\2\3\n\0\0",
-                                                   11)),
-       1, "no es un archivo de proyecto"},
-      {carpeta.escribir("largo.cvr", std::string(1 << 20, '7') + "\n" + entero), 1, "no es un archivo de proyecto"},
-      {carpeta.escribir("letras.cvr", ProyectoRapida().poner("Text5", "abc").contenido()), 1, "SUB CRITICO"},
-  };
-  for (const auto& caso : casos) {
-    const Corrida c = correr({"--json", "--veces", "2", caso.archivo});
-    EXPECT_EQ(c.estado, caso.estado) << caso.archivo;
-    const auto objetos = c.objetos();
-    ASSERT_EQ(objetos.size(), 1U) << caso.archivo;
-    EXPECT_EQ(objetos[0]["archivo"], caso.archivo);
-    EXPECT_EQ(objetos[0]["calculado"], false) << caso.archivo;
-    EXPECT_EQ(objetos[0].contains("reportes"), false) << caso.archivo;
-    EXPECT_EQ(objetos[0]["estructura"].is_null(), caso.dice == std::string("extensión")) << caso.archivo;
-    EXPECT_FALSE(objetos[0]["mensajes"].empty()) << caso.archivo;
-    EXPECT_EQ(c.errores.rfind(caso.archivo + ": ", 0), 0U) << c.errores;
-    EXPECT_NE(c.errores.find(caso.dice), std::string::npos) << c.errores;
-  }
-}
-
 TEST_F(Archivos, AProjectThatWasNotReadIsNotCalculatedByAnOption) {
   // the lines up to the basin stand, and the fields of the option would make it calculate
   const std::string entero = ProyectoRapida().contenido();
@@ -54,30 +19,6 @@ TEST_F(Archivos, AProjectThatWasNotReadIsNotCalculatedByAnOption) {
   EXPECT_EQ(c.estado, 1);
   EXPECT_EQ(c.objetos().at(0)["estado"]["ynArriba"].is_null(), false);
   EXPECT_TRUE(c.objetos().at(0)["perfil"].empty());
-}
-
-TEST_F(Archivos, OneThatFailsNeverStopsTheOthersAndTroubleGoesToStandardError) {
-  const Corrida bien = correr({carpeta.escribir("CANAL.CVR", ProyectoRapida().contenido())});
-  EXPECT_EQ(bien.estado, 0);
-  EXPECT_EQ(bien.errores, "");
-  for (const char* parte :
-       {"Rápida - CANAL.CVR", "DATOS", "Q = 1.5 m³/s", "RESULTADOS", "> USBR - II", "MENSAJES\n  ninguno"})
-    EXPECT_NE(bien.salida.find(parte), std::string::npos) << parte;
-
-  const std::string lento = carpeta.escribir("lento.cvr", ProyectoRapida().poner("Text13", "0.0001").contenido());
-  const Corrida uno = correr({canal, lento, canal});
-  EXPECT_EQ(uno.estado, 1);
-  EXPECT_EQ(uno.errores.rfind(lento + ": aviso: FLUJO SUB CRITICO", 0), 0U) << uno.errores;
-  EXPECT_NE(uno.salida.find("El cálculo no llegó a su fin"), std::string::npos);
-
-  const Corrida dos = correr({carpeta.en("no-esta.cvr"), canal});
-  EXPECT_EQ(dos.estado, 2);
-  EXPECT_NE(dos.salida.find("no-esta.cvr (no calculado)"), std::string::npos);
-  EXPECT_EQ(dos.salida.find("DATOS"), dos.salida.rfind("DATOS")) << "an empty design was printed";
-
-  const auto tres = correr({"--json", carpeta.en("no-esta.cvr"), lento, canal}).objetos();
-  ASSERT_EQ(tres.size(), 3U);
-  EXPECT_EQ(tres[2]["calculado"], true);
 }
 
 TEST_F(Archivos, AProjectGivesTheSameWhateverCameBefore) {

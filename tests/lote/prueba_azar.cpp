@@ -122,56 +122,15 @@ const Estructura estructuras[] = {{"rapida", formatoRapida, rapida, "Form2"},
                                   {"vertical", formatoCaidaVertical, vertical, "Form25"}};
 
 const std::vector<std::string>& raros() {
-  static const std::vector<std::string> todos = {"",
-                                                 " ",
-                                                 "0",
-                                                 "-0",
-                                                 "-5",
-                                                 "-0.001",
-                                                 "1e400",
-                                                 "-1e400",
-                                                 "1e38",
-                                                 "3.5e38",
-                                                 "1e-40",
-                                                 "1e-300",
-                                                 "1e-400",
-                                                 "1E5",
-                                                 "abc",
-                                                 "2,5",
-                                                 "1.234,5",
-                                                 "NaN",
-                                                 "inf",
-                                                 "-inf",
-                                                 "0x1F",
-                                                 "1e",
-                                                 "+",
-                                                 "-",
-                                                 ".",
-                                                 "..",
-                                                 "1.2.3",
-                                                 "99999999999999999999",
-                                                 "0.00000000001",
-                                                 "32767",
-                                                 "32768",
-                                                 "-32769",
-                                                 "7",
-                                                 "1000000",
-                                                 "  3 ",
-                                                 "\t2",
-                                                 "3 m",
-                                                 "½",
-                                                 "２",
-                                                 "ñandú",
-                                                 "𝟙",
-                                                 "1d5",
-                                                 "&H10",
-                                                 "\"",
-                                                 "'; --",
-                                                 "%s%n",
-                                                 "1/0",
-                                                 std::string(300, '9'),
-                                                 std::string(4000, '1'),
-                                                 "0." + std::string(400, '0') + "1"};
+  static const std::vector<std::string> todos = [] {
+    std::vector<std::string> t = {std::string(300, '9'), std::string(4000, '1'), "0." + std::string(400, '0') + "1"};
+    std::istringstream cortos(
+        "| |0|-0|-5|-0.001|1e400|-1e400|1e38|3.5e38|1e-40|1e-300|1e-400|1E5|abc|2,5|1.234,5|NaN|inf|-inf|0x1F|1e|+|-|.|"
+        "..|1.2.3|99999999999999999999|0.00000000001|32767|32768|-32769|7|1000000|  3 |\t2|3 m|½|２|ñandú|𝟙|1d5|&H10|"
+        "\"|'; --|%s%n|1/0");
+    for (std::string uno; std::getline(cortos, uno, '|');) t.push_back(uno);
+    return t;
+  }();
   return todos;
 }
 

@@ -72,32 +72,5 @@ TEST_F(Dibujo, NamesOfOldCodePagesStayDifferent) {
 }
 #endif
 
-TEST_F(Dibujo, WhatCannotBeDrawnIsTold) {
-  const std::string canal = proyecto("canal.cvr");
-  const struct {
-    std::vector<std::string> opciones;
-    int estado;
-    const char* dice;
-  } casos[] = {
-      {{"--dibujo", ruta("x.svg"), "--vista", "vistaLateral"}, 2, "vistaTanque"},
-      {{"--dibujo", ruta("x.bmp")}, 2, "x.bmp"},
-      {{"--dibujo", ruta("no/hay/x.svg")}, 2, "x.svg"},
-      {{"--dxf", "/dev/full"}, 2, "/dev/full"},
-      // a chute that flows slowly is not calculated to its end: there is no drawing
-      {{"--dxf", ruta("x.svg"), "--campo", "Form10.Text13=0.0001"}, 1, "SUB CRITICO"},
-      {{"--dibujo", ruta("x.svg"), "--campo", "Form10.Text13=0.0001"}, 1, "SUB CRITICO"},
-  };
-  for (const auto& c : casos) {
-    std::vector<std::string> argumentos = c.opciones;
-    argumentos.push_back(canal);
-    const Corrida corrida = correr(argumentos);
-    const bool sinOpcion = !conQt && c.opciones[0] == "--dibujo";
-    EXPECT_EQ(corrida.estado, sinOpcion ? 2 : c.estado) << c.dice;
-    EXPECT_NE(corrida.errores.find(sinOpcion ? "opción desconocida: --dibujo" : c.dice), std::string::npos)
-        << corrida.errores;
-    EXPECT_FALSE(fs::exists(ruta("x.svg"))) << c.dice;
-  }
-}
-
 }  // namespace
 }  // namespace calvento::lote

@@ -47,24 +47,43 @@ struct Dxf {
 };
 
 /// The drawing as the export window writes it, opened from the drawing window as on the desktop.
-Dxf exportado(Sesion& s, bool conEnergia) {
+Dxf exportado(Sesion& s) {
   const CarpetaPrueba carpeta;
   s.aplicacion().cargar(s.estructura()->ventanaDibujo);
   auto* ventana = s.aplicacion().cargar<MarcoExportar>(s.estructura()->ventanaExportar);
   if (ventana == nullptr) throw std::runtime_error("no export window");
-  ventana->Check1.Value = conEnergia;
+  ventana->Check1.Value = true;
   s.nombrarArchivo(carpeta.en("a.dxf"));
   ventana->Command3_Click();
   EXPECT_EQ(ventana->motivo(), "");
   return {leerDxf(carpeta.en("a.dxf"))};
 }
 
+void comprobarMedidas(const Dxf& dxf, const Json& deben) {
+  std::vector<double> medidas;
+  for (const auto& p : dxf.de("DIMENSION", "TEXT"))
+    medidas.push_back(p.size() < 4 ? 0 : std::hypot(p[2].x - p[3].x, p[2].y - p[3].y));
+  for (const Json& debe : deben["cotas"]) {
+    const auto m = std::find_if(medidas.begin(), medidas.end(),
+                                [&](double x) { return std::fabs(x - debe.get<double>()) < 1e-3; });
+    EXPECT_TRUE(m != medidas.end()) << "no dimension of " << debe;
+    if (m != medidas.end()) medidas.erase(m);
+  }
+  Punto a{1e9, 1e9}, b{-1e9, -1e9};
+  for (const auto& l : dxf.de("LINE", "GRID"))
+    for (const Punto& p : l) {
+      a = {std::min(a.x, p.x), std::min(a.y, p.y)};
+      b = {std::max(b.x, p.x), std::max(b.y, p.y)};
+    }
+  comparar(Json{a.x, b.x, a.y, b.y}, deben["cuadricula"], "grid");
+}
+
 class Cad : public testing::TestWithParam<std::string> {};
 
-TEST_P(Cad, HasTheOutlinesOfTheFigure) {
+TEST_P(Cad, HasTheOutlinesOfTheFigureAndItsMeasures) {
   Caso caso(GetParam());
   Sesion& s = caso.sesion();
-  const Dxf dxf = exportado(s, true);
+  const Dxf dxf = exportado(s);
 
   auto estructura = dxf.de("LWPOLYLINE", "RAS"), canal = dxf.de("LWPOLYLINE", "CANAL"),
        lineas = dxf.de("LINE", "CANAL"), energia = dxf.de("LWPOLYLINE", "LGRADIENTE"),
@@ -113,29 +132,7 @@ TEST_P(Cad, HasTheOutlinesOfTheFigure) {
     }
   }
   EXPECT_EQ(estructura.size() + bordes.size() + lineas.size() + energia.size(), 0U) << "sent and not expected";
-}
-
-TEST_P(Cad, MeasuresAndGrid) {
-  Caso caso(GetParam());
-  const Dxf dxf = exportado(caso.sesion(), false);
-  EXPECT_TRUE(dxf.de("LWPOLYLINE", "LGRADIENTE").empty()) << "the energy line was not asked for";
-
-  std::vector<double> medidas;
-  for (const auto& p : dxf.de("DIMENSION", "TEXT"))
-    medidas.push_back(p.size() < 4 ? 0 : std::hypot(p[2].x - p[3].x, p[2].y - p[3].y));
-  for (const Json& debe : caso.deben["cad"]["cotas"]) {
-    const auto m = std::find_if(medidas.begin(), medidas.end(),
-                                [&](double x) { return std::fabs(x - debe.get<double>()) < 1e-3; });
-    EXPECT_TRUE(m != medidas.end()) << "no dimension of " << debe;
-    if (m != medidas.end()) medidas.erase(m);
-  }
-  Punto a{1e9, 1e9}, b{-1e9, -1e9};
-  for (const auto& l : dxf.de("LINE", "GRID"))
-    for (const Punto& p : l) {
-      a = {std::min(a.x, p.x), std::min(a.y, p.y)};
-      b = {std::max(b.x, p.x), std::max(b.y, p.y)};
-    }
-  comparar(Json{a.x, b.x, a.y, b.y}, caso.deben["cad"]["cuadricula"], "grid");
+  comprobarMedidas(dxf, caso.deben["cad"]);
 }
 
 INSTANTIATE_TEST_SUITE_P(Casos, Cad, testing::ValuesIn(casosCon("figura")), nombreDeCaso);

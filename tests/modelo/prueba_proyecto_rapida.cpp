@@ -42,37 +42,6 @@ void sinTocar(const MesaRapida& m, const char* que) {
   EXPECT_EQ(m.f.Caption.valor(), "Rápida") << que;
 }
 
-TEST(ChuteProject, EveryFieldHasItsLine) {
-  CarpetaPrueba carpeta;
-  MesaRapida m;
-  std::string contenido;
-  for (std::size_t i = 0; i < 37; ++i) contenido += i == 35 ? "4\r\n" : "ñ²" + std::to_string(i) + "\r\n";
-  const std::string bytes = aWindows1252(contenido);
-  EXPECT_TRUE(
-      bytes.ends_with("\xF1\xB2"
-                      "36\r\n"));
-  for (std::size_t i = 0; i < 37; ++i)
-    if (i != 35) campo(m, ordenEscritoAMano[i]).Text = "ñ²" + std::to_string(i);
-  m.estado.tipoTanque = 4;
-  m.dialogos.guarda(carpeta.en("a.cvr"));
-  m.f.mnguardarcomo.Click();
-  EXPECT_EQ(carpeta.leer("a.cvr"), bytes);
-  EXPECT_EQ(m.dialogos.ultimasOpciones.titulo, "Guardar como");
-  EXPECT_EQ(m.dialogos.ultimasOpciones.filtro, "CVI File(*.CVR)|*.cvr");
-  EXPECT_EQ(m.dialogos.ultimasOpciones.extension, "cvr");
-
-  MesaRapida otra;
-  otra.form2.Text9.Text = "20";
-  otra.dialogos.abre(carpeta.en("a.cvr")).esperaFallo("División por cero: Ingresar datos correctamente, verificar");
-  otra.f.mnabrir.Click();
-  for (std::size_t i = 0; i < 37; ++i) {
-    if (i == 35) continue;
-    EXPECT_EQ(campo(otra, ordenEscritoAMano[i]).Text.valor(), "ñ²" + std::to_string(i));
-  }
-  EXPECT_EQ(otra.valor(&DesignState::tipoTanque), 4);
-  EXPECT_EQ(otra.form2.Text9.Text.valor(), "20") << "the chute stores no angle";
-}
-
 TEST(ChuteProject, ReadsWhatOtherEditorsWrite) {
   CarpetaPrueba carpeta;
   const std::string latina = "1250 \xF1\xB3\x80";  // Windows-1252
@@ -147,19 +116,6 @@ TEST(ChuteProject, WhatIsNoProjectLosesNothingAndCalculatesNothing) {
   }
 }
 
-TEST(ChuteProject, AStoredTypeThatIsNoneOpensAndCalculates) {
-  CarpetaPrueba carpeta;
-  for (const char* tipo : {"0", "7", "2.5", "-1", "1e30"}) {
-    MesaRapida m;
-    std::string s = proyecto("\r\n");
-    carpeta.escribir("t.cvr", s.replace(s.rfind("3\r\n1"), 1, tipo));
-    m.dialogos.esperaAviso(avisoSinTanque).esperaFallo("El proyecto no indica un tipo de tanque de la tabla (1 a 6)");
-    m.f.abrir("t.cvr");
-    EXPECT_TRUE(m.f.calculado()) << tipo;
-    for (int fila = 1; fila < 7; ++fila) EXPECT_EQ(m.f.Grid1.tabla.fondo(fila, 1), color::celda) << tipo;
-  }
-}
-
 TEST(ChuteProject, AFailedWritingLeavesTheFormerFile) {
   CarpetaPrueba carpeta;
   carpeta.escribir("lleno.cvr", "former");
@@ -195,37 +151,6 @@ TEST(ChuteProject, AFailedWritingLeavesTheFormerFile) {
   EXPECT_EQ(carpeta.leer("lleno.cvr"), "former");
   EXPECT_EQ(carpeta.leer("firmado.cvr"), "as approved");
   EXPECT_EQ(carpeta.entradas(), 4) << "no leftovers";
-}
-
-TEST(ChuteProject, TheOverwriteQuestionDecides) {
-  CarpetaPrueba carpeta;
-  MesaRapida m;
-  m.f.Text5.Text = "3";
-  carpeta.escribir("viejo.cvr", "former");
-  const char* pregunta = "El archivo viejo.cvr ya existe. ¿Desea reemplazarlo?";
-  m.dialogos.guarda(std::nullopt);  // cancelled
-  m.f.mnguardar.Click();
-  m.dialogos.guarda(carpeta.en("viejo.cvr")).responde(false, pregunta);
-  m.f.mnguardar.Click();
-  EXPECT_EQ(carpeta.leer("viejo.cvr"), "former");
-  sinTocar(m, "No");
-  m.dialogos.guarda(carpeta.en("viejo.cvr")).responde(true, pregunta);
-  m.f.Toolbar1.ButtonClick("guardar");
-  EXPECT_TRUE(carpeta.leer("viejo.cvr").starts_with("3\r\n\r\n"));
-  EXPECT_EQ(m.estado.rutaArchivo, "viejo.cvr");
-  EXPECT_FALSE(m.estado.esNuevo);
-
-  m.f.Text5.Text = "4";
-  m.f.mnguardar.Click();  // no question any more
-  EXPECT_TRUE(carpeta.leer("viejo.cvr").starts_with("4\r\n"));
-
-  m.f.mnnuevo.Click();
-  EXPECT_EQ(m.f.Caption.valor(), "Rápida");
-  EXPECT_EQ(m.estado.rutaArchivo, "viejo.cvr");
-  m.dialogos.guarda(std::nullopt);
-  m.f.mnguardar.Click();
-  EXPECT_TRUE(carpeta.leer("viejo.cvr").starts_with("4\r\n"));
-  EXPECT_EQ(carpeta.entradas(), 1);
 }
 
 TEST(ChuteProject, NeverWritesOverTheFileOfAnotherStructure) {

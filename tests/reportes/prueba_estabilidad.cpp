@@ -47,32 +47,6 @@ TEST(NumerosDeOndas, SobreLaLineaEsInestable) {
   EXPECT_STREQ(claseFlujo({std::nextafter(linea, 0), M}), "Flujo Estable");
 }
 
-TEST(TablaEstabilidad, TitulosYVeinteEstacionesConUnoYConTresTramos) {
-  DesignState e = rapida();
-  Rejilla t;
-  tablaEstabilidad(t, e);
-  std::string filas;
-  for (int f = 0; f < 3; ++f)
-    for (int c = 0; c < t.columnas(); ++c) filas += t.texto(f, c) + (c < 9 ? "|" : "\n");
-  EXPECT_EQ(filas,
-            "ESTACION|Q=2.4(M³/S)|Q=2.4(M³/S)|TIPO DE|Q=1.2(M³/S)|Q=1.2(M³/S)|TIPO DE|Q=0.48(M³/S)|Q=0.48(M³/S)|"
-            "TIPO DE\n( Km+m )|Nv|M|REGIMEN|Nv|M|REGIMEN|Nv|M|REGIMEN\n1+000.00|||||||||\n");
-  EXPECT_TRUE(t.unirTitulos);
-  ASSERT_EQ(t.filas(), 24);
-  EXPECT_EQ(t.texto(3, 0), "1+000.40");
-  EXPECT_EQ(t.texto(22, 0), "1+038.40") << "station 96 of 100";
-  EXPECT_EQ(t.texto(23, 0), "1+040.00");
-
-  e.numTramos = 3;
-  e.sTramo2 = e.sTramo3 = 0.25;
-  e.cotaTramo2 = 107;
-  e.cotaTramo3 = 102;
-  tablaEstabilidad(t, e);
-  ASSERT_EQ(t.filas(), 24);
-  EXPECT_EQ(t.texto(3, 0), "1+000.12") << "a hundredth of the 12 m of the first reach";
-  EXPECT_EQ(t.texto(22, 0), "1+038.88") << "station 286: the 86th of the third reach of 8 m";
-}
-
 TEST(TablaEstabilidad, LaPerdidaConcuerdaConUnaIntegracionFina) {
   // M = v² / (g hf cos θ), compared on the head loss it contains
   Rejilla t;
