@@ -56,13 +56,6 @@ struct MesaDe {
     }
   }
   double valor(Single DesignState::*campo) const { return static_cast<double>((estado.*campo).valor()); }
-  /// The menus of result windows that are enabled, in the order in which the window declares them.
-  std::string menusAbiertos(std::initializer_list<const char*> menus) const {
-    std::string s;
-    for (const char* m : menus)
-      if (f.template buscar<Menu>(m)->Enabled) s.append(s.empty() ? "" : " ").append(m);
-    return s;
-  }
 };
 
 /// Gives the upstream canal of a window such a width and slope that its Froude number is exactly one.

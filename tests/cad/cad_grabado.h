@@ -42,12 +42,6 @@ class CadGrabado : public ConexionCad, AplicacionCad, DocumentoCad, EspacioModel
       if (e.capa == capa && e.clase == clase) r.push_back(e);
     return r;
   }
-  std::vector<Entidad> de(Clase clase) const {
-    std::vector<Entidad> r;
-    for (const Entidad& e : entidades)
-      if (e.clase == clase) r.push_back(e);
-    return r;
-  }
 
   // ConexionCad
   AplicacionCad* obtener() override {

@@ -22,9 +22,7 @@ inline Datos inclinadaRapida() {
 }
 
 template <class Cajas = DialogosGuion>
-struct MesaInclinadaDe : MesaDe<Form1, Form2, Cajas> {
-  std::string menus() const { return this->menusAbiertos({"mngrafico", "mnst", "mntabla", "mntanque"}); }
-};
+using MesaInclinadaDe = MesaDe<Form1, Form2, Cajas>;
 using MesaInclinada = MesaInclinadaDe<>;
 
 }  // namespace calvento

@@ -13,9 +13,6 @@ inline Datos verticalDeLateral() {
 }
 
 template <class Cajas = DialogosGuion>
-struct MesaVerticalDe : MesaDe<Form16, Form25, Cajas> {
-  std::string menus() const { return this->menusAbiertos({"mngrafico", "mnseccion", "mntanque"}); }
-};
-using MesaVertical = MesaVerticalDe<>;
+using MesaVerticalDe = MesaDe<Form16, Form25, Cajas>;
 
 }  // namespace calvento
