@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <benchmark/benchmark.h>
 #include <cmath>
 #include <string>

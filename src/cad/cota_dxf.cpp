@@ -1,5 +1,6 @@
 #include "cad/cota_dxf.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 

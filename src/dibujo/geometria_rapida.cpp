@@ -1,5 +1,6 @@
 #include "dibujo/geometria_rapida.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace calvento {

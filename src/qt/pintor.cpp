@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <optional>
 
 #include <QFont>
@@ -91,7 +92,7 @@ class Repeticion {
     const double r = std::fabs(p.radio * x_);
     QPolygonF puntos;
     for (int i = 0; i < lados; ++i) {
-      const double a = 2 * M_PI * i / lados;
+      const double a = 2 * std::numbers::pi * i / lados;
       puntos << c + QPointF(r * std::cos(a), r * std::sin(a));
     }
     superficie(std::move(puntos), p.pluma, p.relleno);

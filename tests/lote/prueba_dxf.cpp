@@ -1,4 +1,5 @@
 // The CAD drawing of each worked design, read back from its file: the same outlines, stations instead of distances.
+#include <algorithm>
 #include <fstream>
 
 #include "cad/marco_exportar.h"

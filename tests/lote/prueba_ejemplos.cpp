@@ -1,4 +1,5 @@
 // The example projects: designs that an engineer would sign.
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <fstream>

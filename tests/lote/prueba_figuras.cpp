@@ -1,4 +1,6 @@
 // The drawing of each worked design against points and labels that were worked out apart from the program.
+#include <algorithm>
+
 #include "dibujo/marco_dibujo.h"
 #include "lote/figura.h"
 
