@@ -92,6 +92,11 @@ std::string redondeoDecimal(double x, int decimales) {
   return d;
 }
 
+/// from_chars would also take "inf" and "nan": a number begins with a digit or with a point and a digit.
+bool empiezaNumero(std::string_view t) {
+  return !t.empty() && (esDigito(t[0]) || (t[0] == '.' && t.size() > 1 && esDigito(t[1])));
+}
+
 /// The number that a text of digits begins with, and how much of the text it is.
 struct Leido {
   double valor;
@@ -144,9 +149,7 @@ Real Val(std::string_view t) {
     t.remove_prefix(1);
   const bool negativo = !t.empty() && t.front() == '-';
   if (!t.empty() && (t.front() == '-' || t.front() == '+')) t.remove_prefix(1);
-  // from_chars would also take "inf" and "nan": a number begins with a digit or with a point and a digit
-  const bool empieza = !t.empty() && (esDigito(t[0]) || (t[0] == '.' && t.size() > 1 && esDigito(t[1])));
-  if (!empieza) return 0;
+  if (!empiezaNumero(t)) return 0;
   auto [v, largo, fueraDeRango] = leer(t);
   if (fueraDeRango) {
     // the range error does not tell too large from too small: the sign of the written exponent, or a leading zero, does
@@ -157,6 +160,15 @@ Real Val(std::string_view t) {
     v = 0;
   }
   return negativo ? -v : v;
+}
+
+bool esNumero(std::string_view t) {
+  t.remove_prefix(std::min(t.find_first_not_of(" \t"), t.size()));
+  if (const auto fin = t.find_last_not_of(" \t"); fin != std::string_view::npos) t = t.substr(0, fin + 1);
+  if (t.starts_with('-') || t.starts_with('+')) t.remove_prefix(1);
+  if (!empiezaNumero(t)) return false;
+  const Leido leido = leer(t);
+  return !leido.fueraDeRango && leido.largo == t.size();
 }
 
 std::string conPuntoDecimal(std::string_view texto) {

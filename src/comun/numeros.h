@@ -11,6 +11,9 @@ namespace calvento {
 /// accepted, the rest is ignored; 0 where there is no number. Fails when the number does not fit 8 bytes.
 Real Val(std::string_view texto);
 
+/// Whether a text is wholly a number as Val reads it, but for blanks around it.
+bool esNumero(std::string_view texto);
+
 /// A number as people type it with the point as its decimal sign: "2,5" gives "2.5"; in a number with thousands
 /// separators ("1.234,56", "1,234.56") these are dropped.
 std::string conPuntoDecimal(std::string_view texto);

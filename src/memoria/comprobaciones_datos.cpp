@@ -1,6 +1,6 @@
 #include <algorithm>
-#include <charconv>
 
+#include "comun/numeros.h"
 #include "hidraulica/solvers.h"
 #include "memoria/lista.h"
 
@@ -8,22 +8,14 @@ namespace calvento::lista {
 
 namespace {
 
-bool esNumero(std::string_view texto) {
-  texto.remove_prefix(std::min(texto.find_first_not_of(" \t"), texto.size()));
-  if (const auto fin = texto.find_last_not_of(" \t"); fin != std::string_view::npos) texto = texto.substr(0, fin + 1);
-  if (texto.starts_with('+')) texto.remove_prefix(1);
-  double x = 0;
-  const auto r = std::from_chars(texto.data(), texto.data() + texto.size(), x);
-  return r.ec == std::errc() && r.ptr == texto.data() + texto.size();
-}
-
 void camposNumericos(Lista& l, const Diseno& x) {
   int malos = 0;
   std::string cuales;
   const auto mirar = [&](const std::vector<Linea<Dato>>& lineas, const TextosVentana& textos) {
     for (const Linea<Dato>& linea : lineas)
       for (const Dato& dato : linea.piezas) {
-        const auto it = std::ranges::find_if(textos, [&](const auto& t) { return t.first == dato.control; });
+        const auto it =
+            std::find_if(textos.begin(), textos.end(), [&](const auto& t) { return t.first == dato.control; });
         if (it == textos.end() || it->second.empty() || esNumero(it->second)) continue;
         ++malos;
         cuales += (cuales.empty() ? "«" : ", «") + it->second + "» en " + std::string(linea.lugar) +

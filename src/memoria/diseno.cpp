@@ -43,7 +43,7 @@ void ponerTextos(Ventana& ventana, const TextosVentana& textos) {
       opcion->Value = texto == "1";
     } else if (auto* lista = dynamic_cast<ComboBox*>(c)) {
       const std::vector<std::string>& entradas = lista->List;
-      const auto it = std::ranges::find(entradas, texto);
+      const auto it = std::find(entradas.begin(), entradas.end(), texto);
       lista->ListIndex = it == entradas.end() ? -1 : static_cast<int>(it - entradas.begin());
     }
   }
@@ -57,7 +57,7 @@ Diseno::Diseno(const Ficha& f, const Ventana& datos, const Ventana& parametrosDe
 
 const std::string& Diseno::buscar(const TextosVentana& textos, std::string_view control) {
   static const std::string ninguno;
-  const auto it = std::ranges::find_if(textos, [&](const auto& par) { return par.first == control; });
+  const auto it = std::find_if(textos.begin(), textos.end(), [&](const auto& par) { return par.first == control; });
   return it == textos.end() ? ninguno : it->second;
 }
 

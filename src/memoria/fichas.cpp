@@ -1,7 +1,5 @@
 #include "memoria/fichas.h"
 
-#include <algorithm>
-
 namespace calvento {
 
 namespace {
@@ -179,8 +177,9 @@ std::span<const Ficha> fichas() {
 }
 
 const Ficha* fichaDe(std::string_view ventana) {
-  const auto it = std::ranges::find_if(fichas(), [&](const Ficha& f) { return f.formato->ventana == ventana; });
-  return it == fichas().end() ? nullptr : &*it;
+  for (const Ficha& f : fichas())
+    if (f.formato->ventana == ventana) return &f;
+  return nullptr;
 }
 
 }  // namespace calvento

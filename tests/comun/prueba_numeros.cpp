@@ -23,6 +23,12 @@ TEST(Val, ReadsTheNumberAtTheStart) {
   EXPECT_THROW(Val("-" + std::string(400, '9')), FalloAritmetico);
 }
 
+TEST(EsNumero, IsOneFromEndToEnd) {
+  for (const char* si : {"2.5", " -3\t", "+.5", "1e-3", "5."}) EXPECT_TRUE(esNumero(si)) << si;
+  for (const char* no : {"", "-", "2,5", "3 m", "1.2.3", "inf", "nan", "0x1F", "+-2", "1e", "1e400"})
+    EXPECT_FALSE(esNumero(no)) << no;
+}
+
 TEST(PuntoDecimal, TakesTheCommaOfASpanishKeyboard) {
   const struct {
     const char* tecleado;

@@ -11,8 +11,6 @@ namespace {
 
 // The expected points and areas are worked apart from the program, from inclinadaDeMano and verticalDeMano.
 
-constexpr double eje = 120;
-
 TEST(GeometriaInclinada, ARadiusTooSmallForTheRunKeepsTheFormerPoint) {
   DesignState e = inclinadaDeMano();
   e.radioCurva = 1;
