@@ -18,18 +18,18 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 if(CALVENTO_QT)
   set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Hydraulic design of chutes and drops of irrigation canals
- Calvento dimensions the structures that take the energy out of the water along
- a canal: chutes, inclined and vertical drops, with their control section,
- transitions and stilling basin. Its interface is Spanish, its units metric.
- calvento-lote calculates project files without a window.")
+Calvento dimensions the structures that take the energy out of the water along
+a canal: chutes, inclined and vertical drops, with their control section,
+transitions and stilling basin. Its interface is Spanish, its units metric.
+calvento-lote calculates project files without a window.")
   # the icons are SVG, whose plug-in Qt needs no symbol of: it became a package of its own after Qt 6.4
   set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-svg-plugins | libqt6svg6 (<< 6.5)")
   set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, qt6-translations-l10n, qt6-wayland")
 else()
   set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Hydraulic design of chutes and drops on the terminal
- calvento-lote calculates project files of Calvento, for machines without a
- screen: chutes, inclined and vertical drops of irrigation canals with their
- stilling basins, as text or JSON, and CAD drawings as DXF.")
+calvento-lote calculates project files of Calvento, for machines without a
+screen: chutes, inclined and vertical drops of irrigation canals with their
+stilling basins, as text or JSON, and CAD drawings as DXF.")
   set(CPACK_DEBIAN_PACKAGE_CONFLICTS calvento)
   set(CPACK_DEBIAN_PACKAGE_REPLACES calvento)
 endif()
