@@ -7,7 +7,12 @@
 #include <iterator>
 #include <string>
 #include <string_view>
+#ifdef _WIN32
+#include <process.h>
+#else
+#include <sys/stat.h>
 #include <unistd.h>
+#endif
 
 namespace calvento {
 
@@ -40,9 +45,17 @@ class CarpetaPrueba {
     return std::string(std::istreambuf_iterator<char>(f), {});
   }
   /// How many entries the folder holds: leftovers of a failed writing would show.
-  long entradas() const {
+  std::ptrdiff_t entradas() const {
     const std::filesystem::directory_iterator todas(raiz_);
     return std::distance(std::filesystem::begin(todas), std::filesystem::end(todas));
+  }
+  /// Makes a named pipe, which is a file of no text; false where the system has none among its files.
+  bool tuberia([[maybe_unused]] std::string_view nombre) const {
+#ifdef _WIN32
+    return false;
+#else
+    return mkfifo(en(nombre).c_str(), 0600) == 0;
+#endif
   }
 
  private:

@@ -14,7 +14,8 @@ namespace {
 namespace fs = std::filesystem;
 constexpr double ninguno = std::numeric_limits<double>::quiet_NaN();
 
-std::size_t veces(const std::string& texto, const std::string& parte) {
+std::size_t veces(std::string texto, const std::string& parte) {
+  std::erase(texto, '\r');  // lines end as they do on the system
   std::size_t n = 0;
   for (std::size_t i = texto.find(parte); i != std::string::npos; i = texto.find(parte, i + 1)) ++n;
   return n;
@@ -84,6 +85,7 @@ TEST(ConexionDxf, ADrawingWhoseFileHasGoneBeginsAnew) {
   EXPECT_EQ(veces(carpeta.leer("a.dxf"), "\nAcDbLine\n"), 1u);
 }
 
+#ifndef _WIN32  // a full device
 TEST(ConexionDxf, ARunThatCannotBeWrittenLeavesTheFormerFileWhole) {
   const CarpetaPrueba carpeta;
   DialogosGuion dialogos;
@@ -100,6 +102,7 @@ TEST(ConexionDxf, ARunThatCannotBeWrittenLeavesTheFormerFileWhole) {
   correr(*conexion.obtener());  // there is room again
   EXPECT_EQ(veces(carpeta.leer("a.dxf"), "\nAcDbLine\n"), 2u) << "the run that was lost does not come back";
 }
+#endif
 
 TEST(ConexionDxf, PlacesThatCannotBeWrittenFail) {
   const CarpetaPrueba carpeta;

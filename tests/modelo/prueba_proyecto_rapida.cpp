@@ -1,7 +1,6 @@
 #include <filesystem>
 #include <map>
 #include <random>
-#include <sys/stat.h>
 
 #include "apoyo/carpeta_prueba.h"
 #include "apoyo/mesa_rapida.h"
@@ -81,7 +80,7 @@ TEST(ChuteProject, ReadsWhatOtherEditorsWrite) {
 TEST(ChuteProject, WhatIsNoProjectLosesNothingAndCalculatesNothing) {
   CarpetaPrueba carpeta;
   fs::create_directory("carpeta.cvr");
-  ASSERT_EQ(mkfifo("tubo.cvr", 0600), 0);
+  const bool hayTuberias = carpeta.tuberia("tubo.cvr");
   carpeta.escribir("binario.cvr", proyecto("\r\n").substr(0, 60) + std::string("\0\1\2\xFF", 4) + proyecto("\r\n"));
   carpeta.escribir("linea.cvr", std::string(1 << 20, '7'));
   carpeta.escribir("cortado.cvr", "5\r\n6\r\n7\r\n");
@@ -97,12 +96,15 @@ TEST(ChuteProject, WhatIsNoProjectLosesNothingAndCalculatesNothing) {
       {"binario.cvr", "No se puede leer el archivo binario.cvr: no es un archivo de proyecto", 0},
       {"linea.cvr", "No se puede leer el archivo linea.cvr: no es un archivo de proyecto", 0},
       {"falta.cvr", "No se puede leer el archivo falta.cvr: no existe el archivo o la carpeta", 0},
+#ifndef _WIN32  // says the same of the file
       {"nada.cvr/a.cvr", "No se puede leer el archivo a.cvr: no existe la carpeta", 0},
+#endif
       {"cortado.cvr", "El archivo cortado.cvr está incompleto: termina en la línea 3 de 37", 3},
       {"nada.cvr", "El archivo nada.cvr está incompleto: termina en la línea 0 de 37", 0},
       {"tipo.cvr", "El archivo tipo.cvr tiene un número no válido: Desbordamiento: el número es demasiado grande", 35},
   };
   for (const auto& c : casos) {
+    if (!hayTuberias && c.ruta == std::string("tubo.cvr")) continue;
     MesaRapida m;
     for (const auto nombre : ordenEscritoAMano)
       if (nombre != "tipoTanque") campo(m, nombre).Text = "tecleado";
@@ -116,13 +118,14 @@ TEST(ChuteProject, WhatIsNoProjectLosesNothingAndCalculatesNothing) {
   }
 }
 
+#ifndef _WIN32  // full devices, rights
 TEST(ChuteProject, AFailedWritingLeavesTheFormerFile) {
   CarpetaPrueba carpeta;
   carpeta.escribir("lleno.cvr", "former");
   // the device stands where the new content is written before it replaces the former
   fs::create_symlink("/dev/full", "lleno.cvr.tmp~");
   fs::create_directory("carpeta.cvr");
-  ASSERT_EQ(mkfifo("tubo.cvr", 0600), 0);
+  ASSERT_TRUE(carpeta.tuberia("tubo.cvr"));
   carpeta.escribir("firmado.cvr", "as approved");
   fs::permissions("firmado.cvr", fs::perms::owner_read | fs::perms::group_read);
   const struct {
@@ -152,6 +155,7 @@ TEST(ChuteProject, AFailedWritingLeavesTheFormerFile) {
   EXPECT_EQ(carpeta.leer("firmado.cvr"), "as approved");
   EXPECT_EQ(carpeta.entradas(), 4) << "no leftovers";
 }
+#endif
 
 TEST(ChuteProject, NeverWritesOverTheFileOfAnotherStructure) {
   CarpetaPrueba carpeta;
