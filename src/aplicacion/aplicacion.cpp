@@ -142,5 +142,11 @@ void Aplicacion::descargar(Ventana& ventana) {
 void Aplicacion::imprimir(Ventana& ventana) { sistema_.imprimir(ventana); }
 void Aplicacion::copiar(Ventana& ventana) { sistema_.copiar(ventana); }
 void Aplicacion::terminar() { sistema_.terminar(); }
+void Aplicacion::calculado() { sistema_.calculado(estado.calculo); }
+
+Evento Aplicacion::comoMostrar(std::string_view ventana) const {
+  const auto* datos = dynamic_cast<const VentanaDatos*>(cargada(estado.calculo.ventana));
+  return datos == nullptr ? Evento{} : datos->comoMostrar(ventana);
+}
 
 }  // namespace calvento

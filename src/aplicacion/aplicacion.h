@@ -48,6 +48,8 @@ class Aplicacion : public Navegador {
   void imprimir(Ventana& ventana) override;
   void copiar(Ventana& ventana) override;
   void terminar() override;
+  void calculado() override;
+  Evento comoMostrar(std::string_view ventana) const override;
 
   DesignState estado;
 

@@ -18,9 +18,10 @@ Form1::Form1(DesignState& estado, Form2& parametros, Dialogos& dialogos, Navegad
       campo->seleccionarTodo();
       SECONTROL();
     };
-  mngrafico.Click = abre("Form4");
-  mnst.Click = abre("Form20");
-  mntanque.Click = abre("Form7");
+  abreResultado(mngrafico, "Form4");
+  anotarResultado(mngrafico, "Form9", abre("Form9"));
+  abreResultado(mnst, "Form20");
+  abreResultado(mntanque, "Form7");
   mnsuper.conMarca = true;
   mnsuper.Click = [this] { mnsuper_Click(); };
   inhabilitarResultados();

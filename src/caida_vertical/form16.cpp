@@ -29,9 +29,10 @@ Form16::Form16(DesignState& estado, Form25& parametros, Dialogos& dialogos, Nave
   pistaTalud(Text22, "0 < Z2 < 2", "0 < Z2 < 2");
   Option1.Click = [this] { Option1_Click(); };
   Option2.Click = [this] { Option2_Click(); };
-  mngrafico.Click = abre("Form17");
-  mnseccion.Click = abre("Form24");
-  mntanque.Click = abre("Form26");
+  abreResultado(mngrafico, "Form17");
+  anotarResultado(mngrafico, "Form18", abre("Form18"));
+  abreResultado(mnseccion, "Form24");
+  abreResultado(mntanque, "Form26");
   mnparam.Click = abre("Form25");
   // unlike in the other two structures the basin type stays
   Command2.Click = [this] { navegador_.descargar(*this); };

@@ -1,6 +1,7 @@
 #include "estructura/ventana_estructura.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "comun/numeros.h"
 #include "estructura/pasos.h"
@@ -38,7 +39,15 @@ void VentanaEstructura::unirArchivo() {
   };
 }
 
+void VentanaEstructura::contarCalculo() {
+  std::string nombre = Caption;
+  if (const std::size_t guion = nombre.find(" - "); guion != std::string::npos) nombre.replace(guion, 3, " ");
+  estado_.calculo = {estado_.calculo.numero + 1, this->nombre(), std::move(nombre)};
+  navegador_.calculado();
+}
+
 void VentanaEstructura::Command3_Click() {
+  contarCalculo();
   calculado_ = false;
   try {
     calculado_ = calcular();
@@ -76,6 +85,21 @@ void VentanaEstructura::leerCanalAbajo() {
 
 Evento VentanaEstructura::abre(const char* ventana) {
   return [this, ventana] { navegador_.mostrar(ventana); };
+}
+
+void VentanaEstructura::abreResultado(Menu& menu, const char* ventana) {
+  menu.Click = abre(ventana);
+  anotarResultado(menu, ventana, menu.Click);
+}
+
+void VentanaEstructura::anotarResultado(const Menu& menu, const char* ventana, Evento mostrar) {
+  resultados_.push_back({&menu, ventana, std::move(mostrar)});
+}
+
+Evento VentanaEstructura::comoMostrar(std::string_view resultado) const {
+  const auto it =
+      std::find_if(resultados_.begin(), resultados_.end(), [&](const Resultado& r) { return r.ventana == resultado; });
+  return it == resultados_.end() || !it->menu->Enabled ? Evento{} : it->mostrar;
 }
 
 void VentanaEstructura::habilitar(std::initializer_list<Menu*> menus, bool activos) {

@@ -3,6 +3,8 @@
 #include <functional>
 #include <initializer_list>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "modelo/design_state.h"
 #include "modelo/proyecto.h"
@@ -60,6 +62,7 @@ class VentanaEstructura : public VentanaDatos {
   /// Reads the fields and calculates; an arithmetic failure is told and ends it where it stood.
   void Command3_Click() override;
   bool calculado() const override { return calculado_; }
+  Evento comoMostrar(std::string_view resultado) const override;
   void abrir(const std::string& ruta) override;
   void Abrir_Archivo();
   void Guardar_Archivo() { proyecto_.Guardar_Archivo(); }
@@ -80,6 +83,10 @@ class VentanaEstructura : public VentanaDatos {
   void leerCanalAbajo();
   /// Opens a window from a menu.
   Evento abre(const char* ventana);
+  /// The same for a result window, which comoMostrar finds.
+  void abreResultado(Menu& menu, const char* ventana);
+  /// A result window that opens in another way, as long as the menu is active.
+  void anotarResultado(const Menu& menu, const char* ventana, Evento mostrar);
   void habilitar(std::initializer_list<Menu*> menus, bool activos);
   void vaciarCampos(std::initializer_list<TextBox*> campos);
 
@@ -105,7 +112,15 @@ class VentanaEstructura : public VentanaDatos {
 
  private:
   void unirArchivo();
+  void contarCalculo();
 
+  /// One of the result windows: the menu that stands for it and what opens it.
+  struct Resultado {
+    const Menu* menu;
+    std::string_view ventana;
+    Evento mostrar;
+  };
+  std::vector<Resultado> resultados_;
   Proyecto proyecto_;
   bool calculado_ = false;
 };

@@ -24,11 +24,12 @@ VentanaTanques::VentanaTanques(const FormatoProyecto& formato, DesignState& esta
     Grid1.cambiado();
   };
   Grid1.DblClick = [this] { estado_.tipoTanque = Grid1.MouseRow; };
+  static constexpr std::array hojas = {"Form22", "Form5", "Form21", "Form23"};
   mntabla.Click = [this] {
     antesDeBloques();
-    static constexpr std::array hojas = {"Form22", "Form5", "Form21", "Form23"};
     if (tieneBloques(estado_)) navegador_.mostrar(hojas[static_cast<std::size_t>(estado_.tipoTanque.valor()) - 2]);
   };
+  for (const char* hoja : hojas) anotarResultado(mntabla, hoja, mntabla.Click);
   Command2.Click = [this] {
     estado_.tipoTanque = 0;
     navegador_.descargar(*this);

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "comun/real.h"
+#include "plataforma/navegador.h"
 
 namespace calvento {
 
@@ -35,6 +36,7 @@ struct DesignState {
   // Project
   std::string rutaArchivo;  ///< name of the project file last opened or saved, for all three structures
   bool esNuevo = false;     ///< the current structure has no file yet
+  Calculo calculo;          ///< the last one, of whichever structure
 
   // Data of the canal and its structure
   Single Q;                                   ///< design discharge, m³/s; the calculators write it too

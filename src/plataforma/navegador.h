@@ -1,10 +1,19 @@
 #pragma once
 
+#include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "plataforma/ventana.h"
 
 namespace calvento {
+
+/// Which calculation the design values come from. It counts when it begins: one that stops half way has written too.
+struct Calculo {
+  std::uint64_t numero = 0;  ///< how many have begun
+  std::string ventana;       ///< the data window that ran it
+  std::string nombre;        ///< what the user knows it by: "Rápida canal-norte.cvr"
+};
 
 /// What a window asks for beyond itself: other windows by their name, the printer and the clipboard.
 class Navegador {
@@ -21,6 +30,10 @@ class Navegador {
   virtual void copiar(Ventana& ventana) = 0;
   /// Ends the program at once, without a question.
   virtual void terminar() = 0;
+  /// A data window has begun a calculation, which the record tells.
+  virtual void calculado() {}
+  /// How a result window is opened with the last calculation; empty where that has no such result.
+  virtual Evento comoMostrar(std::string_view /*ventana*/) const { return {}; }
 };
 
 /// What shows windows. The desktop program has a real one; batches and tests have one that shows nothing.
@@ -33,6 +46,7 @@ class SistemaVentanas {
   virtual void imprimir(Ventana& ventana) = 0;
   virtual void copiar(Ventana& ventana) = 0;
   virtual void terminar() = 0;
+  virtual void calculado(const Calculo& /*ultimo*/) {}
   /// Runs an action when the running event has ended.
   virtual void despues(std::function<void()> accion) = 0;
 };

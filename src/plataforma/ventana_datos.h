@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "plataforma/ventana.h"
 
@@ -17,6 +18,8 @@ class VentanaDatos : public Ventana {
   virtual void Command3_Click() = 0;
   /// Whether the last Command3 ran through to its last step; false before the first.
   virtual bool calculado() const = 0;
+  /// How the window opens that result window; empty where it has no such result, or none yet.
+  virtual Evento comoMostrar(std::string_view resultado) const = 0;
 };
 
 }  // namespace calvento

@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEvent>
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -18,6 +17,8 @@
 
 #include "qt/cadena.h"
 #include "qt/impresion.h"
+#include "qt/menu_ventana.h"
+#include "qt/teclado.h"
 
 namespace calvento {
 
@@ -43,16 +44,6 @@ class Diferida : public QObject {
 QPoint centrado(const QRect& lugar, const QSize& tamano) {
   return lugar.topLeft() +
          QPoint(std::max(0, (lugar.width() - tamano.width()) / 2), std::max(0, (lugar.height() - tamano.height()) / 2));
-}
-
-/// The typing starts in the first field of the tab order.
-void enfocarPrimero(QMainWindow& vista) {
-  QWidget* w = vista.nextInFocusChain();
-  for (; w != nullptr && w != &vista; w = w->nextInFocusChain())
-    if (qobject_cast<QLineEdit*>(w) != nullptr && w->isEnabled() && w->isVisibleTo(&vista)) {
-      w->setFocus(Qt::TabFocusReason);
-      return;
-    }
 }
 
 }  // namespace
@@ -104,7 +95,10 @@ SistemaQt::Abierta& SistemaQt::crear(Ventana& ventana) {
       break;
   }
   marco->installEventFilter(this);
-  return abiertas_[ventana.nombre()] = Abierta{&ventana, &v, marco, enlace};
+  if (principal_) principal_->installEventFilter(this);  // ahead of the menu bar of the new child
+  Abierta& abierta = abiertas_[ventana.nombre()] = Abierta{&ventana, &v, marco, enlace, ultimo_};
+  unirTeclas(abierta);
+  return abierta;
 }
 
 void SistemaQt::colocarPrincipal(QMainWindow& vista) {
@@ -112,6 +106,8 @@ void SistemaQt::colocarPrincipal(QMainWindow& vista) {
   icono_ = vista.windowIcon();
   vista.setWindowIcon({});
   area_ = vista.findChild<QMdiArea*>();
+  area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
+  anadirMenuVentana(vista, *area_, [this](QMdiSubWindow& hija) { traerDespues(&hija); });
   const QRect pantalla = vista.screen()->availableGeometry();
   const QSize tamano = (pantalla.size() - marcoEscritorio).boundedTo(tamanoMayor);
   vista.resize(tamano);
@@ -138,39 +134,6 @@ void SistemaQt::colocarSuelta(QMainWindow& vista) {
   vista.move(centrado(vista.screen()->availableGeometry(), vista.size()));
 }
 
-void SistemaQt::presentar(Ventana& ventana) {
-  const VentanaUi* diseno = ventanaUi(ventana.nombre());
-  if (principal_ && !pintada_ && diseno != nullptr && diseno->puesto == Puesto::suelta) {
-    enEspera_.push_back(&ventana);
-    return;
-  }
-  Abierta* abierta = buscar(ventana);
-  const bool nueva = abierta == nullptr;
-  if (nueva) abierta = &crear(ventana);
-  QWidget* marco = abierta->marco;
-  abierta->vista->show();
-  marco->isMinimized() ? marco->showNormal() : marco->show();
-  traerAlFrente(marco);
-  // a menu that closes gives the focus back to its own window, which would come forward again
-  QTimer::singleShot(0, this, [this, m = QPointer<QWidget>(marco)] {
-    if (m) traerAlFrente(m);
-  });
-  if (nueva) enfocarPrimero(*abierta->vista);
-}
-
-void SistemaQt::traerAlFrente(QWidget* marco) {
-  if (!marco->isVisible()) return;
-  marco->raise();
-  if (auto* hija = qobject_cast<QMdiSubWindow*>(marco))
-    area_->setActiveSubWindow(hija);
-  else
-    marco->activateWindow();
-}
-
-void SistemaQt::ocultar(Ventana& ventana) {
-  if (const Abierta* abierta = buscar(ventana)) abierta->marco->hide();
-}
-
 /// The start is as fast as the main window alone: the rest is made when it can be seen.
 void SistemaQt::alPintarPrincipal() {
   if (!principal_) return;
@@ -186,9 +149,8 @@ void SistemaQt::cerrar(Ventana& ventana) {
   QWidget* marco = abierta->marco;
   abiertas_.erase(ventana.nombre());
   marco->removeEventFilter(this);
-  marco->hide();
+  quitar(*marco);
   marco->deleteLater();
-  if (principal_ && marco->isWindow()) principal_->activateWindow();
 }
 
 void SistemaQt::terminar() { QCoreApplication::exit(0); }
@@ -219,6 +181,12 @@ void SistemaQt::copiar(Ventana& ventana) {
 }
 
 bool SistemaQt::eventFilter(QObject* objeto, QEvent* evento) {
+  if (esAltSola(*evento) && QApplication::activeWindow() == principal_) {
+    // no further: the bars of all children listen to the area
+    irAlMenu(*principal_, evento);
+    evento->accept();
+    return true;
+  }
   if (evento->type() == QEvent::Paint && objeto == principal_ && !std::exchange(pintada_, true))
     QTimer::singleShot(0, this, &SistemaQt::alPintarPrincipal);
   if (evento->type() != QEvent::Close) return false;

@@ -9,6 +9,7 @@
 #include <QIcon>
 #include <QObject>
 #include <QPointer>
+#include <QRect>
 
 #include "plataforma/dialogos.h"
 #include "plataforma/navegador.h"
@@ -17,6 +18,7 @@
 
 class QMainWindow;
 class QMdiArea;
+class QMdiSubWindow;
 
 namespace calvento {
 
@@ -44,6 +46,8 @@ class SistemaQt : public QObject, public SistemaVentanas {
   void imprimir(Ventana& ventana) override;
   void copiar(Ventana& ventana) override;
   void terminar() override;
+  /// The result windows that show an older calculation say so.
+  void calculado(const Calculo& ultimo) override;
   /// Runs the action when the event that is running has ended, not in the loop of a box that it opens.
   void despues(std::function<void()> accion) override;
 
@@ -55,13 +59,23 @@ class SistemaQt : public QObject, public SistemaVentanas {
     QPointer<QMainWindow> vista;
     QPointer<QWidget> marco;
     QPointer<Enlace> enlace;
+    Calculo mostrado = {};               ///< of a result window: whose figures it shows
+    QPointer<QWidget> franja = nullptr;  ///< stands above it when they are not the last ones
+    QRect sinFranja = {};                ///< the frame's place before the strip made it grow, and with it
+    QRect conFranja = {};
   };
   Abierta* buscar(const Ventana& ventana);
   Abierta& crear(Ventana& ventana);
   void colocarPrincipal(QMainWindow& vista);
   QWidget* colocarHija(QMainWindow& vista);
   void colocarSuelta(QMainWindow& vista);
+  void unirTeclas(const Abierta& abierta);
   void traerAlFrente(QWidget* marco);
+  void traerDespues(QWidget* marco);
+  QMdiSubWindow* anterior(const QWidget* marco) const;
+  void quitar(QWidget& marco);
+  void avisarCifras(Abierta& abierta);
+  void actualizar(Ventana& ventana);
   void alCerrar(QObject* marco);
   void alPintarPrincipal();
 
@@ -69,8 +83,10 @@ class SistemaQt : public QObject, public SistemaVentanas {
   Navegador* navegador_ = nullptr;
   QPointer<QMainWindow> principal_;
   QPointer<QMdiArea> area_;
-  bool pintada_ = false;            ///< the main window has been seen
-  QIcon icono_;                     ///< its icon, painted in many sizes, once it has
+  bool pintada_ = false;        ///< the main window has been seen
+  QIcon icono_;                 ///< its icon, painted in many sizes, once it has
+  QPointer<QWidget> alFrente_;  ///< the frame that was presented last
+  Calculo ultimo_;
   std::vector<Ventana*> enEspera_;  ///< what is to stand above it, shown after it
   std::map<std::string, Abierta, std::less<>> abiertas_;
 };

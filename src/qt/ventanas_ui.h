@@ -15,6 +15,7 @@ struct VentanaUi {
   std::string_view nombre;
   Puesto puesto;
   void (*construir)(QMainWindow& vista);
+  bool deUnCalculo = false;  ///< shows the figures of the calculation that was the last one when it opened
 };
 
 std::span<const VentanaUi> ventanasUi();

@@ -53,12 +53,13 @@ void Form10::unirCampos() {
 }
 
 void Form10::unirMenus() {
-  mngrafico.Click = abre("Form3");
-  mntperfil.Click = abre("Form11");
-  mnst.Click = abre("Form19");
-  mntrayectoria.Click = abre("Form8");
-  mntanque.Click = abre("Form13");
-  mnformondas.Click = abre("Form6");
+  abreResultado(mngrafico, "Form3");
+  anotarResultado(mngrafico, "Form12", abre("Form12"));
+  abreResultado(mntperfil, "Form11");
+  abreResultado(mnst, "Form19");
+  abreResultado(mntrayectoria, "Form8");
+  abreResultado(mntanque, "Form13");
+  abreResultado(mnformondas, "Form6");
 }
 
 void Form10::SECONTROL() {

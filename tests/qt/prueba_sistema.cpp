@@ -17,36 +17,13 @@
 #include <QTest>
 #include <QTimer>
 
-#include "apoyo/dialogos_guion.h"
+#include "escritorio.h"
 #include "qt/cadena.h"
 #include "qt/dialogos_qt.h"
-#include "qt/programa.h"
 #include "qt/textos_es.h"
 
 namespace calvento {
 namespace {
-
-class EnElEscritorio : public testing::Test {
- protected:
-  void SetUp() override {
-    programa.aplicacion.arrancar();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return vista("frmAbout") != nullptr; }));  // above the painted main window
-  }
-  QMainWindow* vista(const char* nombre) { return programa.sistema.vista(nombre); }
-  QLineEdit* campo(const char* ventana, const char* nombre) {
-    return vista(ventana)->findChild<QLineEdit*>(QLatin1String(nombre));
-  }
-  void elegir(const char* ventana, const char* accion) {
-    vista(ventana)->findChild<QAction*>(QLatin1String(accion))->trigger();
-  }
-  void cerrarConLaX(const char* ventana) {
-    programa.sistema.marco(ventana)->close();
-    QTest::qWait(0);
-  }
-  /// The boxes of the script stand outside: they outlive the program.
-  DialogosGuion dialogos;
-  Programa programa{dialogos};
-};
 
 TEST_F(EnElEscritorio, ArrancaEnLaPantallaConElAcercaDeYLoCierra) {
   const QWidget* v = vista("frmMain");

@@ -1,0 +1,55 @@
+#include "qt/menu_ventana.h"
+
+#include <algorithm>
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace calvento {
+
+namespace {
+
+/// Tiles the area as it is: left alone, it would enlarge the main window, past the screen if need be, until the
+/// largest child fits in every tile. It scrolls instead.
+void mosaico(QMainWindow& principal, QMdiArea& area) {
+  const QSize antes = principal.maximumSize();
+  principal.setMaximumSize(principal.size());
+  area.tileSubWindows();
+  principal.setMaximumSize(antes);
+}
+
+QString rotulo(const QMdiSubWindow& hija, int numero) {
+  QString titulo = hija.windowTitle();
+  titulo.replace(u'&', QLatin1String("&&"));
+  return (numero < 10 ? QStringLiteral("&%1 %2") : QStringLiteral("%1 %2")).arg(numero).arg(titulo);
+}
+
+void llenar(QMenu& menu, QMainWindow& principal, QMdiArea& area, const std::function<void(QMdiSubWindow&)>& traer) {
+  menu.clear();
+  QList<QMdiSubWindow*> abiertas = area.subWindowList(QMdiArea::CreationOrder);
+  abiertas.removeIf([](const QMdiSubWindow* hija) { return hija->isHidden(); });
+  for (QAction* orden : {menu.addAction(QStringLiteral("&Cascada"), &area, &QMdiArea::cascadeSubWindows),
+                         menu.addAction(QStringLiteral("&Mosaico"), &area, [&] { mosaico(principal, area); })})
+    orden->setEnabled(!abiertas.empty());
+  if (!abiertas.empty()) menu.addSeparator();
+  int numero = 0;
+  for (QMdiSubWindow* hija : abiertas) {
+    QAction* entrada = menu.addAction(rotulo(*hija, ++numero), hija, [traer, hija] { traer(*hija); });
+    entrada->setCheckable(true);
+    entrada->setChecked(hija == area.currentSubWindow());
+  }
+}
+
+}  // namespace
+
+void anadirMenuVentana(QMainWindow& principal, QMdiArea& area, std::function<void(QMdiSubWindow&)> traer) {
+  auto* menu = principal.menuBar()->addMenu(QStringLiteral("&Ventana"));
+  QObject::connect(menu, &QMenu::aboutToShow, &area,
+                   [menu, &principal, &area, traer = std::move(traer)] { llenar(*menu, principal, area, traer); });
+}
+
+}  // namespace calvento
