@@ -48,14 +48,16 @@ void SistemaQt::avisarCifras(Abierta& abierta) {
                             [this, ventana = abierta.ventana] { actualizar(*ventana); });
   auto* columna = qobject_cast<QBoxLayout*>(marco->layout());
   columna->setSpacing(0);
+  // the frame grows by the strip in one step: a picture that changed its size would be drawn anew, from a record in
+  // which another calculation is writing
+  columna->setEnabled(false);
   columna->insertWidget(0, franja);
   abierta.franja = franja;
   franja->show();
-  if (marco->isMaximized() || marco->isMinimized()) return;
-  // the content keeps its size, and the frame stays in sight
+  columna->setEnabled(true);
+  if (marco->isMaximized() || marco->isMinimized()) return columna->invalidate();
   abierta.sinFranja = marco->geometry();
-  const int ancho = marco->contentsRect().width();
-  marco->resize(marco->size() + QSize(0, franja->heightForWidth(ancho)));
+  marco->resize(marco->size() + QSize(0, franja->heightForWidth(marco->contentsRect().width())));
   marco->move(marco->x(), std::clamp(area_->viewport()->height() - marco->height(), 0, std::max(0, marco->y())));
   abierta.conFranja = marco->geometry();
 }

@@ -6,11 +6,35 @@
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QProxyStyle>
 #include <QShortcut>
+#include <QStyleOption>
 
 namespace calvento {
 
 namespace {
+
+/// Fusion marks an entry only once its menu is open: the keys would go to a bar that shows nothing.
+class BarraALaVista : public QProxyStyle {
+ public:
+  void drawControl(ControlElement que, const QStyleOption* opcion, QPainter* pintor,
+                   const QWidget* widget) const override {
+    const auto* entrada = qstyleoption_cast<const QStyleOptionMenuItem*>(opcion);
+    if (que != CE_MenuBarItem || entrada == nullptr || widget == nullptr || !widget->hasFocus() ||
+        !(entrada->state & State_Selected))
+      return QProxyStyle::drawControl(que, opcion, pintor, widget);
+    QStyleOptionMenuItem marcada = *entrada;
+    marcada.state |= State_Sunken;
+    QProxyStyle::drawControl(que, &marcada, pintor, widget);
+  }
+};
+
+void hacerVisible(QMenuBar& barra) {
+  if (barra.testAttribute(Qt::WA_SetStyle) || barra.style()->name() != QLatin1String("fusion")) return;
+  auto* estilo = new BarraALaVista;
+  estilo->setParent(&barra);
+  barra.setStyle(estilo);
+}
 
 QMenuBar* barraEnFoco(QMainWindow& principal) {
   for (QWidget* w = QApplication::focusWidget(); w != nullptr && w != &principal; w = w->parentWidget())
@@ -31,6 +55,7 @@ bool esAltSola(const QEvent& evento) {
 void irAlMenu(QMainWindow& principal, QEvent* tecla) {
   QMenuBar* barra = barraEnFoco(principal);
   if (barra == nullptr) return;
+  hacerVisible(*barra);
   // the bar has no other door to its keys than Alt itself
   QObject& oyente = *barra;
   if (tecla != nullptr) {

@@ -6,6 +6,7 @@
 #include <QTableWidget>
 
 #include "escritorio.h"
+#include "plataforma/lienzo.h"
 #include "qt/cadena.h"
 
 namespace calvento {
@@ -90,7 +91,12 @@ TEST_F(LaFranja, ConservaLoElegidoYNoMezclaEstructuras) {
   QTest::keyClick(combo, Qt::Key_Down);
   ASSERT_EQ(combo->currentIndex(), 1);
 
+  const Lienzo& dibujo = programa.aplicacion.cargada("Form19")->buscar<PictureBox>("P")->lienzo;
+  const auto pintado = dibujo.version();
+
   abrirEjemplo("21-vertical-sin-obstaculos.cvv");
+  QTest::qWait(5);
+  EXPECT_EQ(dibujo.version(), pintado) << "drawn anew from a record in between";
   EXPECT_EQ(dice("Form19"), "Rápida 01-rapida-un-tramo.cvr, calculado antes del último OK");
   const QWidget* marco = programa.sistema.marco("Form19");
   dialogos.esperaAviso();
