@@ -18,6 +18,7 @@
 #include "hidraulica/form14.h"
 #include "hidraulica/form15.h"
 #include "modelo/archivo_proyecto.h"
+#include "modelo/rutas.h"
 #include "plataforma/ventana_datos.h"
 #include "poza/form21.h"
 #include "poza/form22.h"

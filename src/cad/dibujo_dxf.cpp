@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
 #include <utility>
 
 #include "cad/escritor_dxf.h"
-#include "modelo/archivo_proyecto.h"
-#include "modelo/proyecto.h"
+#include "modelo/guardado.h"
+#include "modelo/rutas.h"
 
 namespace calvento {
 
@@ -29,8 +28,7 @@ DibujoDxf::DibujoDxf(std::string archivo) : archivo_(std::move(archivo)) {}
 
 void DibujoDxf::soltar() {
   try {
-    const auto* inicio = reinterpret_cast<const char8_t*>(archivo_.data());
-    escribirAtomico(std::filesystem::path(inicio, inicio + archivo_.size()), comoDxf(datos_));
+    guardarEntero(comoRuta(archivo_), comoDxf(datos_));
     guardadas_ = datos_.entidades.size();
     guardado_ = true;
   } catch (const std::exception& fallo) {
@@ -80,11 +78,12 @@ CotaCad& DibujoDxf::AddDimAligned(const PuntoCad& a, const PuntoCad& b, const Pu
 
 AplicacionCad* ConexionDxf::obtener() {
   error_.clear();
-  const auto ruta = dialogos_.guardarArchivo({"Exportar a un dibujo DXF", "dxf", "Dibujo DXF(*.DXF)|*.dxf", ultimo_});
+  auto ruta = dialogos_.guardarArchivo({"Exportar a un dibujo DXF", "dxf", "Dibujo DXF(*.DXF)|*.dxf", ultimo_});
   if (!ruta || ruta->empty()) {
     error_ = "No se ha elegido el archivo del dibujo";
     return nullptr;
   }
+  ruta = conExtension(std::move(*ruta), "dxf");
   // an open drawing whose file has gone since is begun anew
   const auto abierto = abiertos_.find(*ruta);
   const bool existe = FileExists(*ruta);

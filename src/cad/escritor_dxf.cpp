@@ -4,12 +4,7 @@
 #include <array>
 #include <cmath>
 #include <dxflib/dl_dxf.h>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <memory>
 #include <numbers>
-#include <random>
 
 #include "cad/cota_dxf.h"
 #include "modelo/codificacion.h"
@@ -78,15 +73,29 @@ Limites limitesDe(const DatosDxf& dibujo) {
   return l;
 }
 
+/// The library writes to a file that it opens itself; here its groups are kept in memory instead. Reals and
+/// hexadecimal numbers come by as texts.
+class GruposEnMemoria : public DL_WriterA {
+ public:
+  GruposEnMemoria() : DL_WriterA("", DL_Codes::AC1015) {}
+  void dxfString(int codigo, const char* valor) const override {
+    texto_.append(codigo < 10 ? "  " : codigo < 100 ? " " : "").append(std::to_string(codigo)) += '\n';
+    texto_.append(valor) += '\n';
+  }
+  void dxfString(int codigo, const std::string& valor) const override { dxfString(codigo, valor.c_str()); }
+  void dxfInt(int codigo, int valor) const override { dxfString(codigo, std::to_string(valor)); }
+  const std::string& texto() const { return texto_; }
+
+ private:
+  mutable std::string texto_;
+};
+
 /// Writes one drawing through the library, section by section.
 class Escritor {
  public:
-  Escritor(const DatosDxf& dibujo, const std::string& archivo)
-      : dibujo_(dibujo), limites_(limitesDe(dibujo)), w_(dxf_.out(archivo.c_str(), DL_Codes::AC1015)) {
-    if (!w_) throw FalloCad("No se puede preparar el dibujo");
-  }
+  explicit Escritor(const DatosDxf& dibujo) : dibujo_(dibujo), limites_(limitesDe(dibujo)) {}
 
-  void escribir() {
+  std::string escribir() {
     cabecera();
     tablas();
     bloques();
@@ -100,7 +109,7 @@ class Escritor {
     dxf_.writeObjects(*w_);
     dxf_.writeObjectsEnd(*w_);
     w_->dxfEOF();
-    w_->close();
+    return grupos_.texto();
   }
 
  private:
@@ -328,49 +337,12 @@ class Escritor {
   Limites limites_;
   int asaTexto_ = 0;  ///< handle of the text style
   DL_Dxf dxf_;
-  std::unique_ptr<DL_WriterA> w_;
-};
-
-/// A file of its own for the library, which writes to files only; it goes with the object.
-class ArchivoTemporal {
- public:
-  ArchivoTemporal() {
-    namespace fs = std::filesystem;
-    std::error_code ec;
-    const fs::path carpeta = fs::temp_directory_path(ec);
-    std::random_device azar;
-    for (int i = 0; i < 100 && !ec; ++i) {
-      carpeta_ = carpeta / ("calvento-dxf-" + std::to_string(azar()));
-      if (fs::create_directory(carpeta_, ec)) return;
-    }
-    throw FalloCad("No se puede preparar el dibujo: no hay carpeta temporal");
-  }
-  ArchivoTemporal(const ArchivoTemporal&) = delete;
-  ArchivoTemporal& operator=(const ArchivoTemporal&) = delete;
-  ~ArchivoTemporal() {
-    std::error_code ec;
-    std::filesystem::remove_all(carpeta_, ec);
-  }
-  std::string ruta() const { return (carpeta_ / "dibujo.dxf").string(); }
-  std::string contenido() const {
-    std::ifstream f(ruta(), std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(f), {});
-  }
-
- private:
-  std::filesystem::path carpeta_;
+  GruposEnMemoria grupos_;
+  DL_WriterA* w_ = &grupos_;
 };
 
 }  // namespace
 
-std::string comoDxf(const DatosDxf& dibujo) {
-  const ArchivoTemporal temporal;
-  Escritor(dibujo, temporal.ruta()).escribir();
-  std::string contenido = temporal.contenido();
-  // the library does not tell of a full disk: a whole file ends in its mark
-  if (contenido.find("\nEOF", contenido.size() < 8 ? 0 : contenido.size() - 8) == std::string::npos)
-    throw FalloCad("No se puede preparar el dibujo: el disco está lleno");
-  return contenido;
-}
+std::string comoDxf(const DatosDxf& dibujo) { return Escritor(dibujo).escribir(); }
 
 }  // namespace calvento

@@ -23,7 +23,7 @@ VentanaEstructura::VentanaEstructura(const FormatoProyecto& formato, DesignState
 }
 
 void VentanaEstructura::unirArchivo() {
-  mnnuevo.Click = [this] { nuevo(); };
+  mnnuevo.Click = [this] { empezarNuevo(); };
   mnabrir.Click = [this] { Abrir_Archivo(); };
   mnguardar.Click = [this] { Guardar_Archivo(); };
   mnguardarcomo.Click = [this] { Guardarcomo_Archivo(); };
@@ -31,7 +31,7 @@ void VentanaEstructura::unirArchivo() {
   mncopiar.Click = [this] { navegador_.copiar(*this); };
   mncerrar.Click = [this] { navegador_.descargar(*this); };
   Toolbar1.ButtonClick = [this](const std::string& clave) {
-    if (clave == "nuevo") nuevo();
+    if (clave == "nuevo") empezarNuevo();
     if (clave == "abrir") Abrir_Archivo();
     if (clave == "guardar") Guardar_Archivo();
     if (clave == "Copiar") navegador_.copiar(*this);
@@ -44,6 +44,11 @@ void VentanaEstructura::contarCalculo() {
   if (const std::size_t guion = nombre.find(" - "); guion != std::string::npos) nombre.replace(guion, 3, " ");
   estado_.calculo = {estado_.calculo.numero + 1, this->nombre(), std::move(nombre)};
   navegador_.calculado();
+}
+
+void VentanaEstructura::empezarNuevo() {
+  nuevo();
+  proyecto_.olvidarArchivo();
 }
 
 void VentanaEstructura::Command3_Click() {

@@ -113,6 +113,7 @@ class VentanaEstructura : public VentanaDatos {
  private:
   void unirArchivo();
   void contarCalculo();
+  void empezarNuevo();
 
   /// One of the result windows: the menu that stands for it and what opens it.
   struct Resultado {

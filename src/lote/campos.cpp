@@ -25,6 +25,7 @@ void elegir(ComboBox& lista, const Asignacion& a) {
   const std::vector<std::string>& entradas = lista.List;
   const auto it = std::find(entradas.begin(), entradas.end(), a.texto);
   if (it == entradas.end()) {
+    if (entradas.empty()) rechazar(a, "la lista está vacía");
     std::string todas;
     for (const std::string& e : entradas) todas += (todas.empty() ? "" : ", ") + e;
     rechazar(a, "se espera una de: " + todas);

@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "dibujo/marco_dibujo.h"
+#include "lote/salidas.h"
 #include "qt/exportar_dibujo.h"
 
 namespace calvento::lote {

@@ -1,5 +1,7 @@
 #include "lote/estructuras.h"
 
+#include "modelo/rutas.h"
+
 namespace calvento::lote {
 
 namespace {

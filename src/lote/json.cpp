@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdio>
 #include <nlohmann/json.hpp>
 
 #include "comun/version.h"
@@ -32,7 +33,17 @@ void EscritorJson::clave(std::string_view nombre) {
 void EscritorJson::texto(std::string_view valor) {
   separar();
   // file names may be no UTF-8: what is not is replaced, since the line must stay readable
-  salida_ += nlohmann::json(valor).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+  std::string entre = nlohmann::json(valor).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+  // a terminal obeys these too: DEL, and U+0080 to U+009F
+  for (std::size_t i = entre.find_first_of("\x7F\xC2"); i < entre.size(); i = entre.find_first_of("\x7F\xC2", i + 1)) {
+    const std::size_t largo = entre[i] == '\x7F' ? 1 : 2;
+    const auto ultimo = static_cast<unsigned char>(entre[i + largo - 1]);
+    if (ultimo >= 0xA0) continue;
+    std::array<char, 8> escape{};
+    std::snprintf(escape.data(), escape.size(), "\\u00%02x", ultimo);
+    entre.replace(i, largo, escape.data());
+  }
+  salida_ += entre;
 }
 void EscritorJson::logico(bool valor) {
   separar();

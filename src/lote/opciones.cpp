@@ -2,12 +2,11 @@
 
 #include <CLI/CLI.hpp>
 #include <charconv>
-#include <filesystem>
-#include <map>
 
 #include "comun/version.h"
 #include "lote/estructuras.h"
 #include "lote/pagina_man.h"
+#include "lote/salidas.h"
 
 namespace calvento::lote {
 
@@ -53,7 +52,7 @@ std::string enEspanol(const CLI::ParseError& error, const CLI::App& programa) {
   if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
     std::string sobran;
     for (const std::string& s : programa.remaining()) sobran += " " + s;
-    return "opción desconocida:" + sobran;
+    return "opción desconocida" + (sobran.empty() ? "" : ":" + sobran);
   }
   if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return "falta el archivo de proyecto";
   if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
@@ -63,28 +62,18 @@ std::string enEspanol(const CLI::ParseError& error, const CLI::App& programa) {
   return std::string("opción errónea: ") + error.what();
 }
 
-/// One file cannot hold the results of several projects.
-void comprobarArchivoDeSalida(const Opciones& o, const char* opcion, const std::string& patron) {
-  if (patron.empty()) return;
-  if (o.archivos.size() > 1 && patron.find("{}") == std::string::npos)
-    throw OpcionErronea(std::string(opcion) + ": con más de un proyecto, el nombre debe contener {}");
-  std::map<std::string, std::string> quien;
-  for (const std::string& proyecto : o.archivos) {
-    const auto [otro, nuevo] = quien.emplace(archivoDeSalida(patron, proyecto), proyecto);
-    if (!nuevo && otro->second != proyecto)
-      throw OpcionErronea(std::string(opcion) + ": " + otro->second + " y " + proyecto + " darían el mismo archivo, " +
-                          otro->first);
+/// The parser takes a name that begins with a dash for options, some of which it knows ("-h.cvr").
+void comprobarGuiones(int argc, const char* const* argv) {
+  for (int i = 1; i < argc; ++i) {
+    const std::string a = argv[i];
+    if (a == "--") return;  // only names follow
+    if (!a.starts_with('-') || a.find('=') != std::string::npos) continue;
+    if (estructuraDe(a) != nullptr || esDeSalida(a))
+      throw OpcionErronea("el nombre " + a + " empieza con un guion y parece una opción: escriba ./" + a);
   }
 }
 
 }  // namespace
-
-std::string archivoDeSalida(const std::string& patron, const std::string& proyecto) {
-  std::string archivo = patron;
-  const std::size_t lugar = archivo.find("{}");
-  if (lugar != std::string::npos) archivo.replace(lugar, 2, std::filesystem::path(proyecto).stem().string());
-  return archivo;
-}
 
 std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* argv) {
   const std::string nombreYVersion = "calvento-lote " + version();
@@ -142,6 +131,7 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
                   "de un proyecto")
       ->type_name("ARCHIVO");
 
+  comprobarGuiones(argc, argv);
   try {
     programa.parse(argc, argv);
   } catch (const CLI::CallForHelp&) {
@@ -153,11 +143,13 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
   } catch (const CLI::ParseError& error) {
     throw OpcionErronea(enEspanol(error, programa));
   }
+  for (const char* opcion : {"--dibujo", "--dxf", "--vista"})
+    if (programa.count(opcion) > 0 && programa[opcion]->as<std::string>().empty())
+      throw OpcionErronea(std::string(opcion) + ": falta el nombre");
   for (const std::string& c : campos) o.campos.push_back(comoAsignacion(c));
   o.veces = comoVeces(veces);
   o.responder = comoRespuesta(responder);
-  comprobarArchivoDeSalida(o, "--dibujo", o.dibujo);
-  comprobarArchivoDeSalida(o, "--dxf", o.dxf);
+  comprobarSalidas(o);
   return o;
 }
 

@@ -43,9 +43,6 @@ struct Informacion {
   std::string texto;
 };
 
-/// The file of one project's results: "{}" in the pattern is the project's name without folder and extension.
-std::string archivoDeSalida(const std::string& patron, const std::string& proyecto);
-
 /// Reads the command line. Fails with OpcionErronea.
 std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* argv);
 

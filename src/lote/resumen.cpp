@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "comun/numeros.h"
+#include "modelo/codificacion.h"
 #include "plataforma/rejilla.h"
 
 namespace calvento::lote {
@@ -25,7 +26,7 @@ std::string alineado(std::string_view s, std::size_t columnas) {
 std::string pieza(std::string_view simbolo, std::string_view valor, std::string_view unidad) {
   std::string s;
   if (!simbolo.empty()) s = std::string(simbolo) + " = ";
-  s += valor;
+  s += visible(valor);
   if (!unidad.empty()) s += " " + std::string(unidad);
   return s;
 }
@@ -55,7 +56,8 @@ std::string notas(const Sesion& sesion) {
   std::string s;
   for (const std::string_view nombre : sesion.estructura()->notas) {
     const auto* etiqueta = sesion.ventana()->buscar<Label>(nombre);
-    if (etiqueta != nullptr && !vacio(etiqueta->Caption)) s += linea("Observación", {etiqueta->Caption});
+    if (etiqueta != nullptr && !vacio(etiqueta->Caption))
+      s += linea("Observación", {visible(etiqueta->Caption.valor())});
   }
   return s;
 }
@@ -125,7 +127,7 @@ std::string verificaciones(const Sesion& sesion) {
     if (!deEstabilidad && r.nombre != "Form13" && r.nombre != "Form7" && r.nombre != "Form26") continue;
     const char* rotulo = deEstabilidad ? "Flujo en la rápida" : "Poza";
     if (r.ventana == nullptr)
-      s += linea(rotulo, {"no se pudo verificar: " + r.fallo});
+      s += linea(rotulo, {"no se pudo verificar: " + visible(r.fallo)});
     else
       s += linea(rotulo, deEstabilidad ? estabilidad(*r.ventana) : veredicto(*r.ventana));
   }
@@ -164,17 +166,17 @@ std::string enUnaLinea(const Mensaje& m) {
   std::string s = std::string(tipos.at(static_cast<std::size_t>(m.tipo))) + ": " + m.texto;
   std::replace(s.begin(), s.end(), '\n', ' ');
   if (m.tipo == Mensaje::Tipo::pregunta) s += m.respuesta ? " [si]" : " [no]";
-  return s;
+  return visible(s);
 }
 
 std::string comoResumen(const Sesion& sesion) {
-  const std::string titulo = sesion.archivo() + (sesion.calculado() ? "" : " (no calculado)");
+  const std::string titulo = visible(sesion.archivo()) + (sesion.calculado() ? "" : " (no calculado)");
   std::string raya;
   for (std::size_t i = 0; i < ancho(titulo); ++i) raya += "═";
   std::string s = titulo + "\n" + raya + "\n";
   // of a project that was not read there is nothing to show but why
   if (sesion.ventana() != nullptr && !sesion.estado().esNuevo) {
-    s += sesion.ventana()->Caption.valor() + "\n";
+    s += visible(sesion.ventana()->Caption.valor()) + "\n";
     s += datos(sesion) + resultados(sesion) + tablaTanques(sesion) + verificaciones(sesion) + comprobaciones(sesion);
   }
   return s + mensajes(sesion) + "\n";

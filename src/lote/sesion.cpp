@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "lote/campos.h"
+#include "modelo/rutas.h"
 
 namespace calvento::lote {
 
@@ -22,7 +23,7 @@ bool sePuedeLeer(const std::filesystem::path& archivo) {
 Sesion::Sesion(const Opciones& opciones, std::string archivo)
     : archivo_(std::move(archivo)),
       estructura_(estructuraDe(archivo_)),
-      accesible_(estructura_ != nullptr && sePuedeLeer(archivo_)),
+      accesible_(estructura_ != nullptr && sePuedeLeer(comoRuta(archivo_))),
       dialogos_(opciones.responder),
       aplicacion_(dialogos_, pantalla_) {
   ejecutar(opciones);

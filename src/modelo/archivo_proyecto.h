@@ -2,10 +2,11 @@
 
 #include <filesystem>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "modelo/fallo_archivo.h"
 
 namespace calvento {
 
@@ -23,27 +24,14 @@ extern const FormatoProyecto formatoRapida;
 extern const FormatoProyecto formatoCaidaInclinada;
 extern const FormatoProyecto formatoCaidaVertical;
 
-/// Whether the file's name ends in that extension, capitals ignored.
-bool tieneExtension(std::string_view archivo, std::string_view extension);
-
-/// A file that cannot be read or written; what() is a short Spanish text with the system's reason.
-class FalloArchivo : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
 /// Reads up to `cuantas` lines as UTF-8 texts. Lines end with CRLF or LF; the text is Windows-1252, or UTF-8 where it
 /// is valid as such or begins with a byte-order mark. A file with fewer lines gives those it has: the caller tells by
 /// the count. Fails (FalloArchivo) for a folder, an unreadable file, and for what is no project at all: binary content
 /// or a line longer than any field.
 std::vector<std::string> leerLineas(const std::filesystem::path& archivo, std::size_t cuantas);
 
-/// Writes the lines in Windows-1252 with CRLF (a line with other characters in UTF-8; control characters as blanks), to
-/// a temporary file beside the target that is renamed over it, so that a failure leaves the former file whole. Fails
-/// with FalloArchivo.
+/// Writes the lines in Windows-1252 with CRLF (a line with other characters in UTF-8; control characters as blanks), as
+/// guardarEntero does. Fails with FalloArchivo.
 void escribirLineas(const std::filesystem::path& archivo, const std::vector<std::string>& lineas);
-
-/// Writes bytes atomically, as escribirLineas does.
-void escribirAtomico(const std::filesystem::path& archivo, std::string_view contenido);
 
 }  // namespace calvento

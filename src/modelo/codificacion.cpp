@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstdio>
 
 namespace calvento {
 
@@ -83,6 +84,28 @@ std::string aWindows1252(std::string_view utf8) {
       salida += static_cast<char>(static_cast<unsigned char>(0x80 + (alto - altos1252.begin())));
     else
       salida += c < 0x80 || (c >= 0xA0 && c < 0x100) ? static_cast<char>(static_cast<unsigned char>(c)) : '?';
+  }
+  return salida;
+}
+
+std::string visible(std::string_view texto) {
+  std::string salida;
+  while (!texto.empty()) {
+    char32_t c = 0;
+    const std::size_t largo = std::max<std::size_t>(leerCaracter(texto, c), 1);
+    if (largo == 1 && static_cast<unsigned char>(texto[0]) >= 0x80) c = static_cast<unsigned char>(texto[0]);
+    const bool corriente = (c >= 0x20 && c < 0x7F) || (c >= 0xA0 && largo > 1);
+    if (corriente) {
+      salida += texto.substr(0, largo);
+    } else if (constexpr std::string_view blancos = "\t\n\r"; c < 0x80 && blancos.find(texto[0]) != blancos.npos) {
+      salida += '\\';
+      salida += "tnr"[blancos.find(texto[0])];
+    } else {
+      std::array<char, 8> escape{};
+      std::snprintf(escape.data(), escape.size(), largo > 1 ? "\\u%04X" : "\\x%02X", static_cast<unsigned>(c));
+      salida += escape.data();
+    }
+    texto.remove_prefix(largo);
   }
   return salida;
 }

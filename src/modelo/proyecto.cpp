@@ -4,18 +4,13 @@
 #include <filesystem>
 
 #include "comun/numeros.h"
+#include "modelo/rutas.h"
 
 namespace calvento {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-fs::path comoRuta(const std::string& utf8) { return fs::path(std::u8string(utf8.begin(), utf8.end())); }
-std::string comoTexto(const fs::path& ruta) {
-  const std::u8string s = ruta.u8string();
-  return std::string(s.begin(), s.end());
-}
 
 const CampoSingle* campoDelRegistro(std::string_view nombre) {
   const auto todos = camposSingle();
@@ -24,13 +19,6 @@ const CampoSingle* campoDelRegistro(std::string_view nombre) {
 }
 
 }  // namespace
-
-std::string tituloDeArchivo(const std::string& ruta) { return comoTexto(comoRuta(ruta).filename()); }
-
-bool FileExists(const std::string& ruta) {
-  std::error_code ec;
-  return fs::exists(comoRuta(ruta), ec);
-}
 
 void usarCarpetaDe(const std::string& ruta) {
   const fs::path carpeta = comoRuta(ruta).parent_path();
@@ -109,7 +97,7 @@ void Proyecto::escribir(const std::string& ruta) {
 void Proyecto::Guardar_Archivo() {
   // the record keeps one file name for the three structures: a file that another one opened or saved is never
   // overwritten
-  if (estado_.esNuevo || estado_.rutaArchivo.empty() || estado_.rutaArchivo != tituloDeArchivo(propio_)) {
+  if (estado_.esNuevo || propio_.empty() || estado_.rutaArchivo != tituloDeArchivo(propio_)) {
     Guardarcomo_Archivo();
     return;
   }
@@ -121,8 +109,9 @@ void Proyecto::Guardar_Archivo() {
 }
 
 void Proyecto::Guardarcomo_Archivo() {
-  const auto ruta = dialogos_.guardarArchivo(opciones("Guardar como"));
+  auto ruta = dialogos_.guardarArchivo(opciones("Guardar como"));
   if (!ruta || ruta->empty()) return;
+  ruta = conExtension(std::move(*ruta), formato_.extension);
   usarCarpetaDe(*ruta);
   if (FileExists(*ruta) &&
       !dialogos_.pregunta("El archivo " + tituloDeArchivo(*ruta) + " ya existe. ¿Desea reemplazarlo?"))

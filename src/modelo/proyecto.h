@@ -27,7 +27,10 @@ class Proyecto {
   /// Writes the file that this structure last opened or saved, in its own folder, wherever a file dialog has been
   /// since. A new project, and one whose name in the record is another structure's by now, asks for a name.
   void Guardar_Archivo();
+  /// Asks for a name, and whether to replace the file that has it; the project's extension belongs to it.
   void Guardarcomo_Archivo();
+  /// A project without a file has begun.
+  void olvidarArchivo() { propio_.clear(); }
 
  private:
   std::string textoDeLinea(std::string_view linea) const;
@@ -45,9 +48,6 @@ class Proyecto {
   std::string propio_;  ///< full path of the file that this structure last opened or saved
 };
 
-/// The name of a file without its folder, and whether a file of that path exists.
-std::string tituloDeArchivo(const std::string& ruta);
-bool FileExists(const std::string& ruta);
 /// Lets relative names resolve against the folder of that file, as after a file dialog.
 void usarCarpetaDe(const std::string& ruta);
 

@@ -1,7 +1,5 @@
 #include "qt/dialogos_qt.h"
 
-#include <filesystem>
-
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileIconProvider>
@@ -85,9 +83,7 @@ std::optional<std::string> DialogosQt::guardarArchivo(const OpcionesArchivo& opc
   dialogo.setFileMode(QFileDialog::AnyFile);
   dialogo.setOption(QFileDialog::DontConfirmOverwrite);  // the program asks by itself
   dialogo.setLabelText(QFileDialog::Accept, QStringLiteral("Guardar"));
-  auto ruta = pedirArchivo(dialogo, opciones);
-  if (ruta) *ruta = conExtension(std::move(*ruta), opciones.extension);
-  return ruta;
+  return pedirArchivo(dialogo, opciones);
 }
 
 QString filtroQt(const std::string& filtro) {
@@ -96,12 +92,6 @@ QString filtroQt(const std::string& filtro) {
   const QString patron = barra == std::string::npos ? QStringLiteral("*") : aQt(filtro.substr(barra + 1));
   const QString otro = patron == patron.toLower() ? patron.toUpper() : patron.toLower();
   return descripcion + QStringLiteral(" (") + patron + (otro == patron ? QString() : u' ' + otro) + u')';
-}
-
-std::string conExtension(std::string ruta, const std::string& extension) {
-  const auto* inicio = reinterpret_cast<const char8_t*>(ruta.data());
-  if (extension.empty() || std::filesystem::path(inicio, inicio + ruta.size()).has_extension()) return ruta;
-  return ruta + "." + extension;
 }
 
 }  // namespace calvento

@@ -20,7 +20,4 @@ class DialogosQt : public Dialogos {
 /// whether they tell them apart.
 QString filtroQt(const std::string& filtro);
 
-/// The path with the extension where it has none of its own.
-std::string conExtension(std::string ruta, const std::string& extension);
-
 }  // namespace calvento

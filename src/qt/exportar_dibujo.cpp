@@ -15,7 +15,8 @@
 #include <QSvgGenerator>
 
 #include "comun/version.h"
-#include "modelo/archivo_proyecto.h"
+#include "modelo/guardado.h"
+#include "modelo/rutas.h"
 #include "qt/cadena.h"
 #include "qt/carpeta_sesion.h"
 #include "qt/pintor.h"
@@ -104,9 +105,7 @@ void exportarDibujo(const Lienzo& lienzo, const std::string& archivo) {
     listo = comoPng(lienzo, memoria);
   if (!listo || datos.isEmpty()) throw std::runtime_error("No se pudo hacer el dibujo " + archivo);
 
-  // the name goes to the system byte for byte: those that are no UTF-8 must not become one and the same
-  escribirAtomico(std::u8string(archivo.begin(), archivo.end()),
-                  {datos.constData(), static_cast<std::size_t>(datos.size())});
+  guardarEntero(comoRuta(archivo), {datos.constData(), static_cast<std::size_t>(datos.size())});
 }
 
 }  // namespace calvento

@@ -1,11 +1,14 @@
 #include <cstdio>
+#include <filesystem>
 #include <string_view>
+#include <system_error>
 
 #include <QFileInfo>
 #include <QTimer>
 
 #include "comun/version.h"
 #include "modelo/proyecto.h"
+#include "modelo/rutas.h"
 #include "qt/aplicacion_qt.h"
 #include "qt/cadena.h"
 #include "qt/carpeta_sesion.h"
@@ -35,6 +38,24 @@ bool contestar(int argc, char** argv) {
   return false;
 }
 
+/// The files named on the command line, absolute: opening the first one changes the folder. Not as Qt tells them, which
+/// loses the bytes of a name that is no UTF-8.
+std::vector<std::string> archivosPedidos(int argc, char** argv) {
+  std::vector<std::string> rutas;
+#ifdef _WIN32
+  static_cast<void>(argc), static_cast<void>(argv);  // in a code page that lacks letters
+  for (const QString& a : QCoreApplication::arguments().mid(1))
+    rutas.push_back(calvento::deQt(QFileInfo(a).absoluteFilePath()));
+#else
+  for (int i = 1; i < argc; ++i) {
+    std::error_code ec;
+    const std::filesystem::path completa = std::filesystem::absolute(argv[i], ec);
+    rutas.push_back(ec ? argv[i] : calvento::comoTexto(completa));
+  }
+#endif
+  return rutas;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -55,10 +76,7 @@ int main(int argc, char** argv) {
   // in the event loop, so that a fault at the start ends in a box as any other
   QTimer::singleShot(0, &aplicacion, [&] {
     programa.aplicacion.arrancar();
-    const QStringList argumentos = QCoreApplication::arguments();
-    QStringList rutas;  // all of them before the first one changes the folder
-    for (const QString& argumento : argumentos.mid(1)) rutas << QFileInfo(argumento).absoluteFilePath();
-    for (const QString& ruta : rutas) abrir(calvento::deQt(ruta));
+    for (const std::string& ruta : archivosPedidos(argc, argv)) abrir(ruta);
   });
   return QCoreApplication::exec();
 }

@@ -5,6 +5,7 @@
 
 #include "apoyo/carpeta_prueba.h"
 #include "apoyo/dialogos_guion.h"
+#include "apoyo/disco_lleno.h"
 #include "cad/cota_dxf.h"
 #include "cad/dibujo_dxf.h"
 
@@ -32,7 +33,7 @@ TEST(ConexionDxf, ASecondRunInTheSameFileAddsAnotherFileBeginsAnew) {
   const CarpetaPrueba carpeta;
   DialogosGuion dialogos;
   ConexionDxf conexion(dialogos);
-  dialogos.guarda(carpeta.en("a.dxf")).guarda(carpeta.en("a.dxf")).guarda(carpeta.en("b.dxf"));
+  dialogos.guarda(carpeta.en("a.dxf")).guarda(carpeta.en("a")).guarda(carpeta.en("b.dxf"));
   correr(*conexion.obtener());
   EXPECT_EQ(veces(carpeta.leer("a.dxf"), "\nAcDbLine\n"), 1u);
   EXPECT_EQ(dialogos.ultimasOpciones.extension, "dxf");
@@ -94,8 +95,10 @@ TEST(ConexionDxf, ARunThatCannotBeWrittenLeavesTheFormerFileWhole) {
   correr(*conexion.obtener());
   const std::string antes = carpeta.leer("a.dxf");
 
-  fs::create_symlink("/dev/full", "a.dxf.tmp~");  // the disk is full when the new file is written
-  EXPECT_THROW(correr(*conexion.obtener()), FalloCad);
+  {
+    const DiscoLleno lleno(1000);
+    EXPECT_THROW(correr(*conexion.obtener()), FalloCad);
+  }
   EXPECT_EQ(carpeta.leer("a.dxf"), antes);
   EXPECT_EQ(carpeta.entradas(), 1) << "no leftovers";
 

@@ -63,6 +63,35 @@ TEST_F(Dibujo, ACadDrawingReplacesTheFormerOneWithoutAQuestion) {
   EXPECT_EQ(dxf.find("\nEst:0+340.00\n"), dxf.rfind("\nEst:0+340.00\n"));
 }
 
+TEST_F(Dibujo, NothingOfTheCommandIsWrittenOver) {
+  const std::string canal = proyecto("canal.cvr");
+  fs::create_symlink("canal.cvr", ruta("enlace.dxf"));
+  fs::create_hard_link(canal, ruta("duro.svg"));
+  fs::create_symlink("nuevo.dxf", ruta("colgado.svg"));
+  fs::create_symlink(".", ruta("aqui"));
+  const struct {
+    std::vector<std::string> opciones;
+    std::string dice;
+  } casos[] = {
+      {{"--dxf", canal}, "canal.cvr: el nombre debe terminar en .dxf"},
+      {{"--dibujo", ruta("x.dxf")}, "x.dxf: el nombre debe terminar en .svg, .pdf, .png"},
+      {{"--dibujo", ruta("x")}, "debe terminar en .svg"},
+      {{"--dxf", ruta("enlace.dxf")}, "escribiría encima del proyecto " + canal},
+      {{"--dibujo", ruta("duro.svg")}, "escribiría encima del proyecto " + canal},
+      {{"--dxf", ruta("aqui/nuevo.dxf"), "--dibujo", ruta("colgado.svg")}, "--dibujo y --dxf darían el mismo archivo"},
+  };
+  for (const auto& [opciones, dice] : casos) {
+    std::vector<std::string> argumentos = opciones;
+    argumentos.push_back(canal);
+    const Corrida c = correr(argumentos);
+    EXPECT_EQ(c.estado, 2) << dice;
+    EXPECT_EQ(c.salida, "") << dice;
+    EXPECT_NE(c.errores.find(dice), std::string::npos) << c.errores;
+  }
+  EXPECT_EQ(carpeta.leer("canal.cvr"), ProyectoRapida().contenido());
+  EXPECT_EQ(carpeta.entradas(), 5);
+}
+
 #ifndef _WIN32
 TEST_F(Dibujo, NamesOfOldCodePagesStayDifferent) {
   if (!conQt) GTEST_SKIP();

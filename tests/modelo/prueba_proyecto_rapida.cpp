@@ -118,27 +118,21 @@ TEST(ChuteProject, WhatIsNoProjectLosesNothingAndCalculatesNothing) {
   }
 }
 
-#ifndef _WIN32  // full devices, rights
+#ifndef _WIN32  // pipes, and other words for names that are too long
 TEST(ChuteProject, AFailedWritingLeavesTheFormerFile) {
   CarpetaPrueba carpeta;
-  carpeta.escribir("lleno.cvr", "former");
-  // the device stands where the new content is written before it replaces the former
-  fs::create_symlink("/dev/full", "lleno.cvr.tmp~");
+  carpeta.escribir("viejo.cvr", "former");
   fs::create_directory("carpeta.cvr");
   ASSERT_TRUE(carpeta.tuberia("tubo.cvr"));
-  carpeta.escribir("firmado.cvr", "as approved");
-  fs::permissions("firmado.cvr", fs::perms::owner_read | fs::perms::group_read);
   const struct {
     std::string ruta;
     bool existe;
     const char* mensaje;
   } casos[] = {
-      {"lleno.cvr", true, "No se puede guardar el archivo lleno.cvr: no queda espacio en el disco"},
       {"carpeta.cvr", true, "No se puede guardar el archivo carpeta.cvr: es una carpeta"},
-      {"tubo.cvr", true, "No se puede guardar el archivo tubo.cvr: no es un archivo de texto"},
-      {"firmado.cvr", true, "No se puede guardar el archivo firmado.cvr: el archivo es de solo lectura"},
+      {"tubo.cvr", true, "No se puede guardar el archivo tubo.cvr: es una tubería o un dispositivo"},
       {"falta/a.cvr", false, "No se puede guardar el archivo a.cvr: no existe el archivo o la carpeta"},
-      {"lleno.cvr/a.cvr", false, "No se puede guardar el archivo a.cvr: no existe la carpeta"},
+      {"viejo.cvr/a.cvr", false, "No se puede guardar el archivo a.cvr: no existe la carpeta"},
       {std::string(300, 'a'), false, nullptr},
   };
   for (const auto& c : casos) {
@@ -151,11 +145,33 @@ TEST(ChuteProject, AFailedWritingLeavesTheFormerFile) {
     sinTocar(m, c.ruta.c_str());
     EXPECT_EQ(m.f.Text1.Text.valor(), "2534.60");
   }
-  EXPECT_EQ(carpeta.leer("lleno.cvr"), "former");
-  EXPECT_EQ(carpeta.leer("firmado.cvr"), "as approved");
-  EXPECT_EQ(carpeta.entradas(), 4) << "no leftovers";
+  EXPECT_EQ(carpeta.entradas(), 3) << "no leftovers";
 }
 #endif
+
+TEST(ChuteProject, TheFinalNameIsAskedAboutAndANewProjectForgetsIt) {
+  CarpetaPrueba carpeta;
+  MesaRapida m;
+  carpeta.escribir("viejo.cvr", "former");
+  const char* pregunta = "El archivo viejo.cvr ya existe. ¿Desea reemplazarlo?";
+  m.dialogos.guarda(carpeta.en("viejo")).responde(false, pregunta);
+  m.f.mnguardar.Click();
+  EXPECT_EQ(carpeta.leer("viejo.cvr"), "former");
+  sinTocar(m, "No");
+  m.f.Text5.Text = "4";
+  m.dialogos.guarda(carpeta.en("viejo")).responde(true, pregunta);
+  m.f.Toolbar1.ButtonClick("guardar");
+  EXPECT_EQ(m.estado.rutaArchivo, "viejo.cvr");
+
+  m.f.mnnuevo.Click();
+  EXPECT_EQ(m.estado.rutaArchivo, "viejo.cvr");
+  m.estado.esNuevo = false;  // as another structure leaves it that has saved a file of that name since
+  m.dialogos.guarda(carpeta.en("Canal v1.5"));
+  m.f.mnguardar.Click();
+  EXPECT_TRUE(carpeta.leer("viejo.cvr").starts_with("4\r\n"));
+  EXPECT_EQ(m.estado.rutaArchivo, "Canal v1.5.cvr");
+  EXPECT_EQ(carpeta.entradas(), 2);
+}
 
 TEST(ChuteProject, NeverWritesOverTheFileOfAnotherStructure) {
   CarpetaPrueba carpeta;
