@@ -33,17 +33,7 @@ void EscritorJson::clave(std::string_view nombre) {
 void EscritorJson::texto(std::string_view valor) {
   separar();
   // file names may be no UTF-8: what is not is replaced, since the line must stay readable
-  std::string entre = nlohmann::json(valor).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
-  // a terminal obeys these too: DEL, and U+0080 to U+009F
-  for (std::size_t i = entre.find_first_of("\x7F\xC2"); i < entre.size(); i = entre.find_first_of("\x7F\xC2", i + 1)) {
-    const std::size_t largo = entre[i] == '\x7F' ? 1 : 2;
-    const auto ultimo = static_cast<unsigned char>(entre[i + largo - 1]);
-    if (ultimo >= 0xA0) continue;
-    std::array<char, 8> escape{};
-    std::snprintf(escape.data(), escape.size(), "\\u00%02x", ultimo);
-    entre.replace(i, largo, escape.data());
-  }
-  salida_ += entre;
+  salida_ += nlohmann::json(valor).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 void EscritorJson::logico(bool valor) {
   separar();
@@ -63,6 +53,21 @@ void EscritorJson::escribirNumero(Numero valor) {
 void EscritorJson::numero(int valor) { escribirNumero(valor); }
 void EscritorJson::numero(float valor) { std::isfinite(valor) ? escribirNumero(valor) : nulo(); }
 void EscritorJson::numero(double valor) { std::isfinite(valor) ? escribirNumero(valor) : nulo(); }
+
+std::string EscritorJson::salida() const {
+  std::string linea = salida_;
+  // the library escapes what is below U+0020; a terminal obeys DEL, and U+0080 to U+009F, too
+  for (const char guia : {'\x7F', '\xC2'})
+    for (std::size_t i = linea.find(guia); i != std::string::npos; i = linea.find(guia, i + 1)) {
+      const std::size_t largo = guia == '\x7F' ? 1 : 2;
+      const auto ultimo = static_cast<unsigned char>(linea[i + largo - 1]);
+      if (ultimo >= 0xA0) continue;
+      std::array<char, 8> escape{};
+      std::snprintf(escape.data(), escape.size(), "\\u00%02x", ultimo);
+      linea.replace(i, largo, escape.data());
+    }
+  return linea;
+}
 
 namespace {
 

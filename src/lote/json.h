@@ -24,7 +24,8 @@ class EscritorJson {
   void numero(double valor);  ///< null for what is no number
   void nulo();
 
-  const std::string& salida() const { return salida_; }
+  /// The text so far, fit for a terminal.
+  std::string salida() const;
 
  private:
   void separar();
