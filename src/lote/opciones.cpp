@@ -1,6 +1,7 @@
 #include "lote/opciones.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <charconv>
 
 #include "comun/version.h"
@@ -143,6 +144,7 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
   } catch (const CLI::ParseError& error) {
     throw OpcionErronea(enEspanol(error, programa));
   }
+  if (std::ranges::find(o.archivos, "") != o.archivos.end()) throw OpcionErronea("el nombre de un archivo está vacío");
   for (const char* opcion : {"--dibujo", "--dxf", "--vista"})
     if (programa.count(opcion) > 0 && programa[opcion]->as<std::string>().empty())
       throw OpcionErronea(std::string(opcion) + ": falta el nombre");

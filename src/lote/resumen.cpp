@@ -147,7 +147,7 @@ std::string comprobaciones(const Sesion& sesion) {
     s += (mala ? "> " : "  ") + alineado(std::string(c.nombre), 42) +
          alineado(std::string(nombreEstado(c.estado)), 13) + alineado(cifra(c.valor), 10) + " límite " +
          cifra(c.limite) + (c.unidad.empty() ? "" : " ") + std::string(c.unidad) + "\n";
-    if (mala) s += "      " + c.detalle + "\n";
+    if (mala) s += "      " + visible(c.detalle) + "\n";
   }
   return s;
 }
