@@ -2,6 +2,7 @@
 
 #include "cad/marco_exportar.h"
 #include "lote/dibujo.h"
+#include "lote/salidas.h"
 
 namespace calvento::lote {
 

@@ -146,7 +146,8 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
   }
   if (std::ranges::find(o.archivos, "") != o.archivos.end()) throw OpcionErronea("el nombre de un archivo está vacío");
   for (const char* opcion : {"--dibujo", "--dxf", "--vista"})
-    if (programa.count(opcion) > 0 && programa[opcion]->as<std::string>().empty())
+    if (const auto* dada = programa.get_option_no_throw(opcion);
+        dada != nullptr && *dada && dada->as<std::string>().empty())
       throw OpcionErronea(std::string(opcion) + ": falta el nombre");
   for (const std::string& c : campos) o.campos.push_back(comoAsignacion(c));
   o.veces = comoVeces(veces);

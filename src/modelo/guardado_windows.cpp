@@ -6,8 +6,9 @@
 #include <string>
 #include <system_error>
 
+#ifndef NOMINMAX
 #define NOMINMAX
-#define WIN32_LEAN_AND_MEAN
+#endif
 #include <windows.h>
 
 #include "modelo/fallo_archivo.h"
@@ -106,7 +107,7 @@ void guardar(const fs::path& destino, std::string_view contenido, bool existe) {
 
 void guardarEntero(const fs::path& archivo, std::string_view contenido) {
   try {
-    const fs::path destino = destinoDe(archivo);
+    const fs::path destino = fs::absolute(destinoDe(archivo));  // not every ReplaceFileW takes a relative one
     std::error_code ec;
     const fs::file_status antes = fs::status(destino, ec);
     if (fs::is_directory(antes)) fallarEscritura(archivo, "es una carpeta");
