@@ -14,9 +14,10 @@ namespace {
 /// Saved again it is the same project: every field on its line, and what the record keeps on the others.
 void comprobarGuardado(Caso& caso) {
   Sesion& s = caso.sesion();
-  s.nombrarArchivo("otro.txt");
+  const std::string otro = "otro." + std::string(s.estructura()->formato->extension);
+  s.nombrarArchivo(otro);
   disparar(s.ventana()->buscar<Menu>("mnguardarcomo")->Click);
-  const std::vector<std::string> lineas = leerLineas("otro.txt", 99);
+  const std::vector<std::string> lineas = leerLineas(otro, 99);
   const Json &proyecto = caso.deben["proyecto"], &campos = caso.deben["ventana"]["campos"];
   ASSERT_EQ(lineas.size(), s.estructura()->formato->lineas.size());
   std::size_t i = 0;
