@@ -1,7 +1,9 @@
 #include <cstdio>
 #include <filesystem>
+#include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 #include <QFileInfo>
 #include <QTimer>

@@ -1,5 +1,7 @@
 #pragma once
 
+#ifndef _WIN32
+
 #include <sys/resource.h>
 
 namespace calvento {
@@ -22,3 +24,5 @@ class DiscoLleno {
 };
 
 }  // namespace calvento
+
+#endif

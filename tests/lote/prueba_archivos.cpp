@@ -54,6 +54,7 @@ TEST_F(Archivos, AProjectGivesTheSameWhateverCameBefore) {
   EXPECT_EQ(correr(argumentos).salida, esperado);
 }
 
+#ifndef _WIN32
 TEST_F(Archivos, NothingThatATerminalObeysReachesIt) {
   const std::string malo = carpeta.escribir("a\x1B[2J\n\xF1.cvr", ProyectoRapida().contenido());
   const Corrida c = correr({"--campo", "Form10.Text25=3\n4\x7F\u009B5", malo, carpeta.en("no\t\u0085.cvr")});
@@ -67,7 +68,6 @@ TEST_F(Archivos, NothingThatATerminalObeysReachesIt) {
       EXPECT_EQ(texto.find(mando), std::string::npos) << texto;
 }
 
-#ifndef _WIN32
 TEST_F(Archivos, OutputThatCannotBeWrittenIsAnErrorAndEndsTheRun) {
   const std::string vacio = carpeta.escribir("vacio.cvr", "");
   for (const std::vector<const char*>& argumentos :
