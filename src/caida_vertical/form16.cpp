@@ -105,8 +105,9 @@ bool Form16::calcular() {
 }
 
 void Form16::nuevo() {
-  vaciarCampos({&Text5, &Text25, &Text2, &Text4, &Text6, &Text7, &Text8, &Text9, &Text16, &Text18, &Text19, &Text20,
-                &Text23, &Text22});
+  // the basin's width goes first: without it the preview stops before it writes into the record, which stays
+  vaciarCampos({&Text23, &Text5, &Text25, &Text2, &Text4, &Text6, &Text7, &Text8, &Text9, &Text16, &Text18, &Text19,
+                &Text20, &Text22});
   Caption = std::string(formatoCaidaVertical.titulo);
   habilitar({&mngrafico, &mnseccion, &mntanque}, false);
   estado_.esNuevo = true;

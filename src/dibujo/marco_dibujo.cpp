@@ -78,8 +78,6 @@ void MarcoDibujo::reglas() {
          reglaProgresivas);
   });
   pasandoFallos([&] { EJEY(estado_.vistaY1, estado_.vistaY2, Picture2.lienzo, reglaElevaciones); });
-  Picture1.cambiado();
-  Picture2.cambiado();
 }
 
 void MarcoDibujo::redibujar() {
@@ -87,7 +85,6 @@ void MarcoDibujo::redibujar() {
   for (const Rutina& r : orden_ == Orden::principal ? estructura_.ordenPrincipal : estructura_.ordenVistas)
     pasandoFallos([&] { r.pintar(GRAF.lienzo); });
   dibujarLeyenda(GRAF.lienzo);
-  GRAF.cambiado();
 }
 
 void MarcoDibujo::GRAF_Resize(int ancho, int alto) {
@@ -101,7 +98,6 @@ void MarcoDibujo::GRAF_MouseDown(Punto p) {
   estado_.dibX = p.x;
   estado_.dibY = p.y;
   GRAF.recuadro = {true, p, p};
-  GRAF.cambiado();
 }
 
 void MarcoDibujo::GRAF_MouseMove(Punto p) {
@@ -110,23 +106,17 @@ void MarcoDibujo::GRAF_MouseMove(Punto p) {
   pasandoFallos([&] {
     Label5.Caption = "(" + formato(estado_.progresivaInicio + p.x, "0.000") + "," + formato(Real(p.y), "0.000") + ")";
   });
-  if (!GRAF.recuadro.visible) return;
-  GRAF.recuadro.a = {estado_.dibX, estado_.dibY};
-  GRAF.recuadro.b = p;
-  GRAF.cambiado();
+  if (GRAF.recuadro.valor().visible) GRAF.recuadro = {true, {estado_.dibX, estado_.dibY}, p};
 }
 
 void MarcoDibujo::GRAF_MouseUp(Punto p) {
-  if (!GRAF.recuadro.visible) return;  // the second of two buttons: its box is done already
-  GRAF.recuadro.visible = false;
+  if (!GRAF.recuadro.valor().visible) return;  // the second of two buttons: its box is done already
+  GRAF.recuadro = {};
   estado_.dibX2 = p.x;
   estado_.dibY2 = p.y;
   const auto [x1, x2] = std::minmax(estado_.dibX, estado_.dibX2);
   const auto [y1, y2] = std::minmax(estado_.dibY, estado_.dibY2);
-  if (x2 - x1 < menorCaja || y2 - y1 < menorCaja) {
-    GRAF.cambiado();
-    return;
-  }
+  if (x2 - x1 < menorCaja || y2 - y1 < menorCaja) return;
   mostrarVista([v = Vista{x1, x2, y1, y2}] { return v; }, Orden::principal);
 }
 

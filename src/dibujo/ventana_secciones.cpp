@@ -28,17 +28,8 @@ VentanaSecciones::VentanaSecciones(std::string_view nombre, const DesignState& e
 
 void VentanaSecciones::DIBUJASECCION() {
   if (Combo1.ListIndex < 0) return;
-  const auto avisar = [this] {
-    for (PictureBox* caja : {&P, &Picture1, &Picture2}) caja->cambiado();
-  };
-  try {
-    const DatosSeccion datos = secciones_.at(static_cast<std::size_t>(Combo1.ListIndex)).datos();
-    SECCION(P.lienzo, Picture1.lienzo, Picture2.lienzo, datos, estado_.Q);
-  } catch (const FalloAritmetico&) {
-    avisar();
-    throw;
-  }
-  avisar();
+  const DatosSeccion datos = secciones_.at(static_cast<std::size_t>(Combo1.ListIndex)).datos();
+  SECCION(P.lienzo, Picture1.lienzo, Picture2.lienzo, datos, estado_.Q);
 }
 
 void VentanaSecciones::pasar(int paso) {

@@ -21,7 +21,7 @@ VentanaTanques::VentanaTanques(const FormatoProyecto& formato, DesignState& esta
   Grid1.Click = [this] {
     const MenuBloques bloques = pulsarTabla(Grid1.tabla, Grid1.MouseRow, estado_, parametros_, longitudEnRejilla_);
     if (bloques != MenuBloques::igual) mntabla.Enabled = bloques == MenuBloques::activo;
-    Grid1.cambiado();
+    sbStatusBar.Nota = "";
   };
   Grid1.DblClick = [this] { estado_.tipoTanque = Grid1.MouseRow; };
   static constexpr std::array hojas = {"Form22", "Form5", "Form21", "Form23"};
@@ -36,23 +36,17 @@ VentanaTanques::VentanaTanques(const FormatoProyecto& formato, DesignState& esta
   };
 }
 
-void VentanaTanques::Command3_Click() {
-  VentanaEstructura::Command3_Click();
-  Grid1.cambiado();
-}
-
 void VentanaTanques::tomarTanqueLeido() {
-  pintarTabla(Grid1.tabla, filaElegida(estado_));
-  Grid1.cambiado();
-  // a length that fails follows from a calculation that has failed, and that was told already
-  bool deLaTabla = true;
-  pasandoFallos([&] { deLaTabla = longitudPoza(estado_, parametros_); });
-  if (!deLaTabla) dialogos_.fallo("El proyecto no indica un tipo de tanque de la tabla (1 a 6)");
+  const int fila = filaElegida(estado_);
+  pintarTabla(Grid1.tabla, fila);
+  pasandoFallos([&] { longitudPoza(estado_, parametros_); });
+  // the calculation has just asked for a type in a box; why the project has none is said beside
+  sbStatusBar.Nota = fila == 0 ? "El proyecto no indica un tipo de tanque de la tabla (1 a 6)" : "";
 }
 
 void VentanaTanques::vaciarTabla() {
   limpiarTabla(Grid1.tabla);
-  Grid1.cambiado();
+  sbStatusBar.Nota = "";
 }
 
 }  // namespace calvento

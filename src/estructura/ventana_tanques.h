@@ -24,12 +24,11 @@ class VentanaTanques : public VentanaEstructura {
   Menu mnst{*this, "mnst"};
   Menu mntabla{*this, "mntabla"};
 
-  void Command3_Click() override;
-
  protected:
   /// Before a sheet of block dimensions opens.
   virtual void antesDeBloques() {}
-  /// Marks the row of the stored basin type and sets its length; a type that is none of the table's is told.
+  /// Marks the row of the stored basin type and sets its length; a type that is none of the table's is told in the
+  /// status bar until a row is chosen.
   void tomarTanqueLeido();
   void vaciarTabla();
 

@@ -62,7 +62,6 @@ void Form14::calcularParametros() {
   const Real z = Val(Text2.Text);
   const Real b = Val(Text3.Text);
   SECANAL(P1.lienzo, y, 0, b, z);  // there is no second level in this mode
-  P1.cambiado();
   const Seccion seccion{b, z};
   const Real R = seccion.radio(y);
   Text6.Text = texto(Round(R, 3));
@@ -77,7 +76,6 @@ void Form14::calcularCritico() {
   const Real b = Val(Text3.Text);
   const Real yc = YCRITICO(estado_.Q, b, z);
   SECANAL(P1.lienzo, yc, yc, b, z);
-  P1.cambiado();
   const Seccion seccion{b, z};
   const Flujo f = flujoEn(seccion, estado_.Q, yc);
   // meant so: this mode shows the depth of the first mode, which it leaves at 0, and the top width there; the critical
@@ -118,7 +116,6 @@ void Form14::calcularNormal() {
   Text6.Text = texto(Round(yc, 3));
   Text14.Text = texto(Round(Sc, 5));
   SECANAL(P1.lienzo, yn, yc, b, z);
-  P1.cambiado();
 }
 
 }  // namespace calvento

@@ -8,7 +8,9 @@
 namespace calvento::lote {
 
 /// Writes JSON text piece by piece, on one line. Numbers are the shortest text that reads back as the same 4-byte or
-/// 8-byte value, which a library that knows 8-byte numbers only cannot give.
+/// 8-byte value, which a library that knows 8-byte numbers only cannot give. The library that escapes the texts could
+/// hold the whole object and write it, but takes three times as long: 0.47 ms of processor time against 0.15 for the
+/// 24 kB of a chute of three reaches, whose whole run takes 1.5 ms.
 class EscritorJson {
  public:
   void abrirObjeto() { abrir('{'); }

@@ -13,6 +13,7 @@ namespace calvento::lote {
 namespace {
 
 /// Columns that the UTF-8 text takes on a terminal; all our letters are one column wide.
+// The standard's formatting pads so, too, but only from GCC 13 on; a package for these lines alone is one too many.
 std::size_t ancho(std::string_view s) {
   return static_cast<std::size_t>(
       std::count_if(s.begin(), s.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
@@ -103,7 +104,7 @@ std::vector<std::string> veredicto(const Ventana& reporte) {
   while (!primera.empty() && (primera.back() == ',' || primera.back() == '.')) primera.pop_back();
   std::string barridos;
   const Rejilla& t = reporte.buscar<Grid>("Grid1")->tabla;
-  for (int f = t.filasTitulo; f < t.filas(); ++f)
+  for (int f = t.filasTitulo(); f < t.filas(); ++f)
     if (t.texto(f, 9) == "--") barridos += (barridos.empty() ? "resalto barrido con Q = " : ", ") + t.texto(f, 1);
   return barridos.empty() ? std::vector{primera} : std::vector{primera, barridos + " m³/s"};
 }
@@ -113,7 +114,7 @@ std::vector<std::string> estabilidad(const Ventana& reporte) {
   std::vector<std::string> piezas;
   const Rejilla& t = reporte.buscar<Grid>("Grid1")->tabla;
   for (int c = 3; c < t.columnas(); c += 3) {
-    int f = t.filasTitulo + 1;
+    int f = t.filasTitulo() + 1;
     while (f < t.filas() && t.texto(f, c) == "Flujo Estable") ++f;
     piezas.push_back(t.texto(0, c - 1) + (f == t.filas() ? " estable" : " inestable desde " + t.texto(f, 0)));
   }

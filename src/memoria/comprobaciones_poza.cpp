@@ -184,7 +184,7 @@ void diezCaudales(Lista& l, const Rejilla& t) {
   constexpr int columnaCaudal = 1, columnaVeredicto = 9;
   int barridos = 0, filas = 0;
   std::string cuales;
-  for (int f = t.filasTitulo; f < t.filas() && t.columnas() > columnaVeredicto; ++f) {
+  for (int f = t.filasTitulo(); f < t.filas() && t.columnas() > columnaVeredicto; ++f) {
     const std::string& veredicto = t.texto(f, columnaVeredicto);
     filas += !veredicto.empty();
     if (veredicto != "--") continue;

@@ -111,7 +111,7 @@ void estabilidadDelFlujo(Lista& l, const Rejilla& t) {
     }
     int inestables = 0;
     std::string desde;
-    for (int f = t.filasTitulo + 1; f < t.filas(); ++f)
+    for (int f = t.filasTitulo() + 1; f < t.filas(); ++f)
       if (t.texto(f, c) != "Flujo Estable" && inestables++ == 0) desde = t.texto(f, 0);
     // a fifth of the discharge leaves the walls room for its waves
     const bool deQuinta = i == 2;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -48,6 +49,17 @@ class Control : public Notificable {
 
  private:
   std::string nombre_;
+};
+
+/// What the widget of a control of class C holds instead of a reference, since it may outlive the window it shows.
+template <class C>
+class Vinculable {
+ public:
+  /// Empty as soon as the control is gone.
+  std::weak_ptr<C> vinculo() { return std::shared_ptr<C>(vida_, static_cast<C*>(this)); }
+
+ private:
+  std::shared_ptr<Vinculable> vida_{this, [](Vinculable*) {}};
 };
 
 /// A label whose caption the program changes. (Fixed captions live in the window's design only.)
@@ -163,11 +175,12 @@ class Toolbar : public Control {
   std::vector<std::string> claves_;
 };
 
-/// A status bar of one panel.
+/// A status bar of one panel, and behind it a note that the hints in the panel do not wipe out.
 class StatusBar : public Control {
  public:
   using Control::Control;
   Propiedad<std::string> Panel1{*this, {}};
+  Propiedad<std::string> Nota{*this, {}};
 };
 
 /// Two arrows that step a whole number.

@@ -30,7 +30,7 @@ bool completar(std::vector<Punto>& puntos) { return completar(puntos, &Punto::x)
 void Lienzo::redimensionar(int anchoPixeles, int altoPixeles) {
   anchoPixeles_ = anchoPixeles;
   altoPixeles_ = altoPixeles;
-  ++version_;
+  cambiar();
 }
 
 void Lienzo::redimensionarSinCrecer(int anchoPixeles, int altoPixeles) {
@@ -40,13 +40,18 @@ void Lienzo::redimensionarSinCrecer(int anchoPixeles, int altoPixeles) {
 
 void Lienzo::Scale(double x1, double y1, double x2, double y2) {
   escala_ = {x1, y1, x2 - x1, y2 - y1};
-  ++version_;
+  cambiar();
 }
 
 void Lienzo::Cls() {
   primitivas_.clear();
   CurrentX = CurrentY = 0;
+  cambiar();
+}
+
+void Lienzo::cambiar() {
   ++version_;
+  oyente_();
 }
 
 void Lienzo::moverA(Punto p) {
@@ -56,7 +61,7 @@ void Lienzo::moverA(Punto p) {
 
 void Lienzo::anadir(Primitiva p) {
   primitivas_.push_back(std::move(p));
-  ++version_;
+  cambiar();
 }
 
 void Lienzo::Line(Punto a, Punto b) { Line(a, b, ForeColor); }

@@ -1,14 +1,16 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <limits>
-#include <memory>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
 #include "plataforma/color.h"
 #include "plataforma/control.h"
+#include "plataforma/oyente.h"
 
 namespace calvento {
 
@@ -103,7 +105,8 @@ struct EstadoPluma {
   Letra Font;
 };
 
-/// A retained picture in world coordinates. It paints nothing: a figure fills it, a painter replays it at any size.
+/// A retained picture in world coordinates. It paints nothing: a figure fills it, a painter replays it at any size. It
+/// tells its listener of every change.
 /// What cannot be computed (a coordinate that is not a finite number) is passed over as a failed statement is: a line,
 /// box, circle or text without a usable coordinate is left out and the pen stays; each coordinate of a polygon point
 /// that has no value keeps the one of the point before it, so that a polygon never changes its number of points.
@@ -152,10 +155,13 @@ class Lienzo : public EstadoPluma {
   const std::vector<Primitiva>& primitivas() const { return primitivas_; }
   /// Grows by one with each change of the picture, so that a painter can tell whether to repaint.
   std::uint64_t version() const { return version_; }
+  /// Calls that function with each change from now on; empty: none.
+  void alCambiar(std::function<void()> oyente) { oyente_.poner(std::move(oyente)); }
 
  private:
   void moverA(Punto p);
   void anadir(Primitiva p);
+  void cambiar();
   Pluma pluma(Color color) const { return {color, DrawStyle, DrawWidth}; }
 
   int anchoPixeles_;
@@ -164,23 +170,28 @@ class Lienzo : public EstadoPluma {
   EscalaLienzo escala_;
   std::vector<Primitiva> primitivas_;
   std::uint64_t version_ = 0;
+  Oyente<> oyente_;  ///< the last member: see there
 };
 
 /// A dotted rectangle that is stretched over a picture while a region is being chosen; it is no part of the picture.
 struct Recuadro {
   bool visible = false;
   Punto a, b;  ///< opposite corners, in world coordinates
+  friend bool operator==(const Recuadro&, const Recuadro&) = default;
 };
 
-/// The control that shows a canvas.
-class PictureBox : public Control {
+/// The control that shows a canvas, which tells its own changes.
+class PictureBox : public Control, public Vinculable<PictureBox> {
  public:
   PictureBox(Ventana& v, std::string_view nombre, int anchoPixeles, int altoPixeles)
       : Control(v, nombre), lienzo(anchoPixeles, altoPixeles) {}
   Lienzo lienzo;
-  Recuadro recuadro;
-  /// Tells the one that shows it that the picture is ready.
-  void cambiado() { disparar(alCambiar); }
+  Propiedad<Recuadro> recuadro{*this, {}};
+  /// Calls that function from now on when the picture or the rubber box over it has changed; empty: none.
+  void alDibujar(const Evento& oyente) {
+    lienzo.alCambiar(oyente);
+    alRecuadrar_ = oyente;
+  }
   /// Pointer events, in world coordinates.
   std::function<void(Punto)> MouseDown;
   std::function<void(Punto)> MouseMoveEn;
@@ -188,11 +199,13 @@ class PictureBox : public Control {
   /// The box on screen has another inner size, in pixels.
   std::function<void(int ancho, int alto)> Resize;
 
-  /// Empty as soon as the control is gone: a widget may outlive the window it shows.
-  std::weak_ptr<PictureBox> vinculo() const { return propio_; }
+ protected:
+  void trasCambiar(const void* propiedad) override {
+    if (propiedad == &recuadro) disparar(alRecuadrar_);
+  }
 
  private:
-  std::shared_ptr<PictureBox> propio_{this, [](PictureBox*) {}};
+  Evento alRecuadrar_;
 };
 
 }  // namespace calvento

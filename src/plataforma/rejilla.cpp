@@ -17,6 +17,7 @@ void Rejilla::dimensionar(int filas, int columnas) {
   anchos_.resize(static_cast<std::size_t>(columnas));
   filas_ = filas;
   columnas_ = columnas;
+  oyente_(CambioRejilla::estructura);
 }
 
 void Rejilla::formatoColumnas(std::string_view formato) {
@@ -30,12 +31,11 @@ void Rejilla::formatoColumnas(std::string_view formato) {
   dimensionar(std::max(filas_, 1), static_cast<int>(piezas.size()));
   for (int c = 0; c < columnas_; ++c) {
     std::string_view p = piezas[static_cast<std::size_t>(c)];
-    Columna& columna = anchos_[static_cast<std::size_t>(c)];
     if (!p.empty() && (p[0] == '^' || p[0] == '<' || p[0] == '>')) {
-      columna.alineacion = p[0] == '^' ? Alineacion::centro : p[0] == '>' ? Alineacion::derecha : Alineacion::izquierda;
+      alinear(c, p[0] == '^' ? Alineacion::centro : p[0] == '>' ? Alineacion::derecha : Alineacion::izquierda);
       p.remove_prefix(1);
     }
-    columna.ancho = anchoTexto(p) + 90;
+    ponerAncho(c, anchoTexto(p) + 90);
     const std::size_t primero = p.find_first_not_of(' ');
     p = primero == std::string_view::npos ? std::string_view()
                                           : p.substr(primero, p.find_last_not_of(' ') - primero + 1);
@@ -53,18 +53,35 @@ Rejilla::Celda& Rejilla::celda(int fila, int columna) {
   return const_cast<Celda&>(static_cast<const Rejilla&>(*this).celda(fila, columna));
 }
 
-const std::string& Rejilla::texto(int fila, int columna) const { return celda(fila, columna).texto; }
-void Rejilla::poner(int fila, int columna, std::string texto) { celda(fila, columna).texto = std::move(texto); }
-Color Rejilla::fondo(int fila, int columna) const { return celda(fila, columna).fondo; }
-void Rejilla::pintar(int fila, int columna, Color fondo) { celda(fila, columna).fondo = fondo; }
+template <class T>
+void Rejilla::escribir(T& lugar, T valor, CambioRejilla que) {
+  if (lugar == valor) return;
+  lugar = std::move(valor);
+  oyente_(que);
+}
 
-void Rejilla::vaciar() {
-  for (Celda& c : celdas_) c.texto.clear();
+const std::string& Rejilla::texto(int fila, int columna) const { return celda(fila, columna).texto; }
+void Rejilla::poner(int fila, int columna, std::string texto) {
+  escribir(celda(fila, columna).texto, std::move(texto),
+           fila < filasTitulo_ ? CambioRejilla::estructura : CambioRejilla::celdas);
+}
+Color Rejilla::fondo(int fila, int columna) const { return celda(fila, columna).fondo; }
+void Rejilla::pintar(int fila, int columna, Color fondo) {
+  escribir(celda(fila, columna).fondo, fondo, CambioRejilla::celdas);
 }
 
 int Rejilla::anchoTwips(int columna) const { return anchos_.at(static_cast<std::size_t>(columna)).ancho; }
-void Rejilla::ponerAncho(int columna, int twips) { anchos_.at(static_cast<std::size_t>(columna)).ancho = twips; }
+void Rejilla::ponerAncho(int columna, int twips) {
+  escribir(anchos_.at(static_cast<std::size_t>(columna)).ancho, twips, CambioRejilla::anchos);
+}
 Alineacion Rejilla::alineacion(int columna) const { return anchos_.at(static_cast<std::size_t>(columna)).alineacion; }
-void Rejilla::alinear(int columna, Alineacion a) { anchos_.at(static_cast<std::size_t>(columna)).alineacion = a; }
+void Rejilla::alinear(int columna, Alineacion a) {
+  escribir(anchos_.at(static_cast<std::size_t>(columna)).alineacion, a, CambioRejilla::celdas);
+}
+
+void Rejilla::ponerTitulos(int filas, bool unidos) {
+  escribir(filasTitulo_, filas, CambioRejilla::estructura);
+  escribir(titulosUnidos_, unidos, CambioRejilla::estructura);
+}
 
 }  // namespace calvento

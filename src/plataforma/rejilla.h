@@ -1,18 +1,24 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "plataforma/color.h"
 #include "plataforma/control.h"
+#include "plataforma/oyente.h"
 
 namespace calvento {
 
 enum class Alineacion { izquierda, derecha, centro };
 
+/// What is different in a table: all of it (its size, its headings), texts and looks of cells, or widths of columns.
+enum class CambioRejilla { estructura, celdas, anchos };
+
 /// A plain table: texts, background colours, column widths, joined headings. A window shows it, the batch program
-/// prints it.
+/// prints it. It tells its listener of every change, and where a write changes nothing, nobody.
 class Rejilla {
  public:
   Rejilla() = default;
@@ -32,16 +38,19 @@ class Rejilla {
   void poner(int fila, int columna, std::string texto);
   Color fondo(int fila, int columna) const;
   void pintar(int fila, int columna, Color fondo);
-  void vaciar();
 
   int anchoTwips(int columna) const;
   void ponerAncho(int columna, int twips);
   Alineacion alineacion(int columna) const;
   void alinear(int columna, Alineacion alineacion);
-  /// Rows at the top that are headings, in the button-face colour.
-  int filasTitulo = 1;
-  /// Equal neighbouring texts of row 0 are shown as one cell.
-  bool unirTitulos = false;
+  /// Rows at the top that are headings, in the button-face colour; at first it is one. `unidos`: equal neighbouring
+  /// texts of row 0 are shown as one cell.
+  void ponerTitulos(int filas, bool unidos = false);
+  int filasTitulo() const { return filasTitulo_; }
+  bool titulosUnidos() const { return titulosUnidos_; }
+
+  /// Calls that function with each change from now on; empty: none.
+  void alCambiar(std::function<void(CambioRejilla)> oyente) { oyente_.poner(std::move(oyente)); }
 
  private:
   struct Celda {
@@ -55,19 +64,24 @@ class Rejilla {
   };
   const Celda& celda(int fila, int columna) const;
   Celda& celda(int fila, int columna);
+  /// Writes a value where it is another one, and tells it.
+  template <class T>
+  void escribir(T& lugar, T valor, CambioRejilla que);
 
   int filas_ = 0;
   int columnas_ = 0;
   std::vector<Celda> celdas_;
   std::vector<Columna> anchos_;
+  int filasTitulo_ = 1;
+  bool titulosUnidos_ = false;
+  Oyente<CambioRejilla> oyente_;  ///< the last member: see there
 };
 
-/// The control that shows a table. Changes are told by cambiado(), so that many cells can be written at one cost.
-class Grid : public Control {
+/// The control that shows a table, which tells its own changes.
+class Grid : public Control, public Vinculable<Grid> {
  public:
   using Control::Control;
   Rejilla tabla;
-  void cambiado() { disparar(alCambiar); }
   /// The row under the pointer in the running click, header row 0.
   int MouseRow = 0;
   Evento Click;

@@ -95,11 +95,8 @@ Enlace::Enlace(Ventana& ventana, QMainWindow& vista, AlFallar alFallar)
       continue;
     }
     refrescos_.push_back(refresco);
-    // a canvas already tells its own widget
-    control->alCambiar = [vivo = std::weak_ptr<bool>(vivo_), antes = control->alCambiar, refresco] {
-      if (vivo.expired()) return;
-      disparar(antes);
-      refresco();
+    control->alCambiar = [vivo = std::weak_ptr<bool>(vivo_), refresco] {
+      if (!vivo.expired()) refresco();
     };
   }
   std::vector<std::string> widgets = widgetsSinControl();

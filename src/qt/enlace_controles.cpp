@@ -16,7 +16,6 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QStatusBar>
-#include <QTableWidget>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -269,9 +268,15 @@ Enlace::Refresco Enlace::unirEstado(StatusBar& estado) {
   panel->setTextFormat(Qt::PlainText);
   panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   barra->addWidget(panel, 1);
-  return [&estado, panel, comun = comunes(estado, *barra)] {
+  auto* nota = new QLabel(barra);
+  nota->setObjectName(aQt(estado.nombre() + "_nota"));
+  nota->setTextFormat(Qt::PlainText);
+  barra->addPermanentWidget(nota);
+  return [&estado, panel, nota, comun = comunes(estado, *barra)] {
     comun();
     panel->setText(aQt(estado.Panel1.valor()));
+    nota->setText(aQt(estado.Nota.valor()));
+    nota->setVisible(!vacio(estado.Nota));
   };
 }
 
@@ -300,23 +305,17 @@ Enlace::Refresco Enlace::unirAvance(ProgressBar& avance) {
 }
 
 Enlace::Refresco Enlace::unirTabla(Grid& tabla) {
-  auto* widget = widgetDe<QTableWidget>(tabla);
-  if (widget == nullptr) return {};
-  auto* vista = new VistaRejilla(tabla, *widget, [this](const std::function<void()>& accion) { atender(accion); });
-  return [vista, comun = comunes(tabla, *widget)] {
-    comun();
-    vista->refrescar();
-  };
+  auto* vista = dynamic_cast<VistaRejilla*>(widgetDe<QWidget>(tabla));
+  if (vista == nullptr) return {};
+  vista->mostrar(tabla, [this](const std::function<void()>& accion) { atender(accion); });
+  return comunes(tabla, *vista);
 }
 
 Enlace::Refresco Enlace::unirLienzo(PictureBox& caja) {
   auto* vista = dynamic_cast<VistaLienzo*>(widgetDe<QWidget>(caja));
   if (vista == nullptr) return {};
   vista->mostrar(caja);
-  return [comun = comunes(caja, *vista), vista] {
-    comun();
-    vista->update();
-  };
+  return comunes(caja, *vista);
 }
 
 Enlace::Refresco Enlace::unirGrupo(Control& grupo) {

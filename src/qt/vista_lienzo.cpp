@@ -20,10 +20,9 @@ VistaLienzo::VistaLienzo(QWidget* padre) : QWidget(padre) {
 void VistaLienzo::mostrar(PictureBox& caja) {
   caja_ = caja.vinculo();
   imagen_ = {};
-  caja.alCambiar = [yo = QPointer<VistaLienzo>(this), antes = std::move(caja.alCambiar)] {
-    disparar(antes);
-    if (yo) yo->update();
-  };
+  caja.alDibujar([yo = QPointer<VistaLienzo>(this)] {
+    if (yo) yo->update();  // Qt gathers these and paints in the next event
+  });
   if (isVisible()) avisarTamano();
   update();
 }
@@ -59,7 +58,7 @@ void VistaLienzo::paintEvent(QPaintEvent*) {
     pintor.setPen(QPen(Qt::darkGray, 1));
     pintor.drawRect(QRectF(0.5, 0.5, width() - 1, height() - 1));
   }
-  if (caja->recuadro.visible) pintarRecuadro(*caja, pintor);
+  if (caja->recuadro.valor().visible) pintarRecuadro(*caja, pintor);
 }
 
 void VistaLienzo::pintarRecuadro(const PictureBox& caja, QPainter& pintor) const {
@@ -71,7 +70,7 @@ void VistaLienzo::pintarRecuadro(const PictureBox& caja, QPainter& pintor) const
   };
   pintor.setPen(QPen(Qt::black, 1, Qt::DotLine));
   pintor.setBrush(Qt::NoBrush);
-  pintor.drawRect(QRectF(pixel(caja.recuadro.a), pixel(caja.recuadro.b)).normalized());
+  pintor.drawRect(QRectF(pixel(caja.recuadro.valor().a), pixel(caja.recuadro.valor().b)).normalized());
 }
 
 void VistaLienzo::avisarTamano() {

@@ -10,167 +10,154 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <QTableWidget>
+#include <QPainter>
+#include <QStyledItemDelegate>
 
 #include "qt/cadena.h"
-#include "qt/colores.h"
+#include "qt/modelo_rejilla.h"
 
 namespace calvento {
 
 namespace {
 
 constexpr int twipsPorPixel = 15;
-constexpr int margenCelda = 10;  ///< pixels a text needs beside itself
+constexpr int margenFila = 6;  ///< pixels a row is higher than its text
 
-Qt::Alignment alineacionQt(Alineacion a) {
-  switch (a) {
-    case Alineacion::izquierda:
-      return Qt::AlignLeft | Qt::AlignVCenter;
-    case Alineacion::derecha:
-      return Qt::AlignRight | Qt::AlignVCenter;
-    case Alineacion::centro:
-      break;
+/// Cells in their colours alone: where a click picks a row its colour is the mark, and nothing tints it. The cell that
+/// the keyboard is on has a dotted line around it.
+class CeldaLisa : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  void paint(QPainter* pintor, const QStyleOptionViewItem& opcion, const QModelIndex& indice) const override {
+    QStyleOptionViewItem lisa = opcion;
+    lisa.state &= ~(QStyle::State_Selected | QStyle::State_MouseOver | QStyle::State_HasFocus);
+    QStyledItemDelegate::paint(pintor, lisa, indice);
+    if (!opcion.state.testFlag(QStyle::State_HasFocus) || !opcion.state.testFlag(QStyle::State_KeyboardFocusChange))
+      return;
+    initStyleOption(&lisa, indice);
+    pintor->setPen(QPen(lisa.palette.color(QPalette::Text), 1, Qt::DotLine));
+    pintor->drawRect(opcion.rect.adjusted(0, 0, -1, -1));
   }
-  return Qt::AlignCenter;
+};
+
+/// The rows without those at the end that have no text.
+int filasConTexto(const Rejilla& t) {
+  const auto vacia = [&](int f) {
+    for (int c = 0; c < t.columnas(); ++c)
+      if (!t.texto(f, c).empty()) return false;
+    return true;
+  };
+  int fin = t.filas();
+  while (fin > t.filasTitulo() && vacia(fin - 1)) --fin;
+  return fin;
 }
 
 }  // namespace
 
-VistaRejilla::VistaRejilla(Grid& control, QTableWidget& widget, Atender atender)
-    : QObject(&widget), control_(control), widget_(widget), atender_(std::move(atender)) {
-  widget.setEditTriggers(QAbstractItemView::NoEditTriggers);
-  // where a click picks a row, its colour is the mark: a selection would lie over it
-  widget.setSelectionMode(control.Click ? QAbstractItemView::NoSelection : QAbstractItemView::ContiguousSelection);
-  widget.setTabKeyNavigation(false);
-  widget.setWordWrap(false);
-  widget.setCornerButtonEnabled(false);
-  widget.verticalHeader()->hide();
-  widget.verticalHeader()->setMinimumSectionSize(1);
-  widget.verticalHeader()->setDefaultSectionSize(widget.fontMetrics().height() + 6);
-  widget.horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
-  widget.horizontalHeader()->setHighlightSections(false);
-  widget.horizontalHeader()->setSectionsClickable(true);
-  widget.setContextMenuPolicy(Qt::CustomContextMenu);
-  widget.installEventFilter(this);
-  connect(&widget, &QTableWidget::cellClicked, this, [this](int fila, int) { pulsar(fila, false); });
-  connect(&widget, &QTableWidget::cellDoubleClicked, this, [this](int fila, int) { pulsar(fila, true); });
-  connect(widget.horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int) { pulsar(-1, false); });
-  connect(widget.horizontalHeader(), &QHeaderView::sectionDoubleClicked, this, [this](int) { pulsar(-1, true); });
-  connect(&widget, &QWidget::customContextMenuRequested, this, &VistaRejilla::abrirMenu);
+VistaRejilla::VistaRejilla(QWidget* padre) : QTableView(padre) {
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setTabKeyNavigation(false);
+  setWordWrap(false);
+  setCornerButtonEnabled(false);
+  verticalHeader()->hide();
+  verticalHeader()->setMinimumSectionSize(1);
+  horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setSectionsClickable(true);
+  horizontalHeader()->viewport()->installEventFilter(this);
+  setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(this, &QTableView::clicked, this, [this](const QModelIndex& i) { pulsar(i.row(), false); });
+  connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex& i) { pulsar(i.row(), true); });
+  connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this] { pulsarCabecera(false); });
+  connect(horizontalHeader(), &QHeaderView::sectionDoubleClicked, this, [this] { pulsarCabecera(true); });
+  connect(this, &QWidget::customContextMenuRequested, this, &VistaRejilla::abrirMenu);
 }
 
-int VistaRejilla::filasEnCabecera() const {
-  const Rejilla& t = control_.tabla;
-  return t.unirTitulos ? 0 : std::min(t.filasTitulo, t.filas());
+void VistaRejilla::mostrar(Grid& control, Atender atender) {
+  control_ = control.vinculo();
+  atender_ = std::move(atender);
+  setSelectionMode(sePulsa() ? QAbstractItemView::NoSelection : QAbstractItemView::ContiguousSelection);
+  if (sePulsa()) {
+    setSelectionBehavior(QAbstractItemView::SelectRows);  // else a click on the header makes a cell the current one
+    setItemDelegate(new CeldaLisa(this));
+  }
+  delete modelo_;
+  modelo_ = new ModeloRejilla(control, *this);
+  setModel(modelo_);
+  connect(modelo_, &QAbstractItemModel::modelReset, this, &VistaRejilla::acomodar);
+  connect(modelo_, &QAbstractItemModel::headerDataChanged, this, &VistaRejilla::ajustarAnchos);
+  acomodar();
 }
 
-void VistaRejilla::pulsar(int filaWidget, bool doble) {
-  const int fila = filaWidget + filasEnCabecera();
-  atender_([&] { doble ? control_.pulsarDoble(std::max(fila, 0)) : control_.pulsar(std::max(fila, 0)); });
+bool VistaRejilla::sePulsa() const {
+  const auto control = control_.lock();
+  return control && control->Click;
 }
 
-void VistaRejilla::refrescar() {
-  const Rejilla& t = control_.tabla;
-  const int cabecera = filasEnCabecera();
-  widget_.horizontalHeader()->setVisible(cabecera > 0);
-  widget_.setColumnCount(t.columnas());
-  widget_.setRowCount(std::max(t.filas() - cabecera, 0));
-  for (int f = 0; f < t.filas(); ++f)
-    for (int c = 0; c < t.columnas(); ++c) escribirCelda(f, c);
-  if (t.unirTitulos) unirTitulos();
+void VistaRejilla::acomodar() {
+  const auto control = control_.lock();
+  if (!control) return;
+  horizontalHeader()->setVisible(filasEnCabecera(control->tabla) > 0);
+  unirTitulos();
   ajustarAnchos();
 }
 
-void VistaRejilla::escribirCelda(int fila, int columna) {
-  const Rejilla& t = control_.tabla;
-  const int cabecera = filasEnCabecera();
-  const int f = fila - cabecera;
-  QTableWidgetItem* celda = f < 0 ? widget_.horizontalHeaderItem(columna) : widget_.item(f, columna);
-  if (celda == nullptr) {
-    celda = new QTableWidgetItem;
-    f < 0 ? widget_.setHorizontalHeaderItem(columna, celda) : widget_.setItem(f, columna, celda);
-  }
-  const QString texto = f < 0 ? textoCabecera(columna) : aQt(t.texto(fila, columna));
-  if (celda->text() != texto) celda->setText(texto);
-  const auto alineacion = alineacionQt(esTitulo(fila) ? Alineacion::centro : t.alineacion(columna));
-  if (celda->textAlignment() != static_cast<int>(alineacion)) celda->setTextAlignment(alineacion);
-  if (f >= 0) pintarCelda(*celda, fila, columna);
-}
-
-/// Several heading rows are as many lines of the header.
-QString VistaRejilla::textoCabecera(int columna) const {
-  QStringList lineas;
-  for (int f = 0; f < filasEnCabecera(); ++f) lineas << aQt(control_.tabla.texto(f, columna));
-  return lineas.join(u'\n');
-}
-
-/// A coloured cell brings its own text colour; the others are left to the desktop.
-void VistaRejilla::pintarCelda(QTableWidgetItem& celda, int fila, int columna) const {
-  const QPalette& paleta = widget_.palette();
-  const Color fondo = control_.tabla.fondo(fila, columna);
-  QBrush suelo, letra;
-  if (!fondo.esDelSistema()) {
-    suelo = aQt(fondo, paleta);
-    letra = textoPara(suelo.color());
-  } else if (esTitulo(fila) || fondo == color::caraBoton) {
-    suelo = paleta.button();
-    letra = paleta.buttonText();
-  }
-  if (celda.background() != suelo) celda.setBackground(suelo);
-  if (celda.foreground() != letra) celda.setForeground(letra);
-}
-
 void VistaRejilla::unirTitulos() {
-  const Rejilla& t = control_.tabla;
-  widget_.clearSpans();
-  for (int c = 0; c < t.columnas();) {
+  clearSpans();
+  const Rejilla& t = control_.lock()->tabla;
+  for (int c = 0; t.titulosUnidos() && c < t.columnas();) {
     int fin = c + 1;
     while (fin < t.columnas() && t.texto(0, fin) == t.texto(0, c)) ++fin;
-    if (fin - c > 1) widget_.setSpan(0, c, 1, fin - c);
+    if (fin - c > 1) setSpan(0, c, 1, fin - c);
     c = fin;
   }
 }
 
 /// The width that the table asks for, but never less than its texts need.
 void VistaRejilla::ajustarAnchos() {
-  const Rejilla& t = control_.tabla;
-  const QFontMetrics letra = widget_.fontMetrics();
-  const QFontMetrics letraCabecera = widget_.horizontalHeader()->fontMetrics();
-  for (int c = 0; c < t.columnas(); ++c) {
-    int ancho = t.anchoTwips(c) / twipsPorPixel;
-    for (int f = 0; f < t.filas(); ++f) {
-      if (f < widget_.rowCount() && widget_.columnSpan(f, c) > 1 && filasEnCabecera() == 0) continue;
-      const QFontMetrics& m = f < filasEnCabecera() ? letraCabecera : letra;
-      ancho = std::max(ancho, m.horizontalAdvance(aQt(t.texto(f, c))) + margenCelda);
-    }
-    if (widget_.columnWidth(c) != ancho) widget_.setColumnWidth(c, ancho);
+  const auto control = control_.lock();
+  if (!control) return;
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + margenFila);
+  for (int c = 0; c < std::min(modelo_->columnCount(), control->tabla.columnas()); ++c) {
+    const int ancho = std::max({control->tabla.anchoTwips(c) / twipsPorPixel, sizeHintForColumn(c),
+                                horizontalHeader()->isHidden() ? 0 : horizontalHeader()->sectionSizeHint(c)});
+    if (columnWidth(c) != ancho) setColumnWidth(c, ancho);
   }
 }
 
+void VistaRejilla::pulsar(int fila, bool doble) {
+  const auto control = control_.lock();
+  if (!control) return;
+  const int enTabla = fila + filasEnCabecera(control->tabla);
+  atender_([&] { doble ? control->pulsarDoble(enTabla) : control->pulsar(enTabla); });
+}
+
+/// The header is row 0. It takes the mark of the keyboard away too, so that Space does not bring back what was chosen.
+void VistaRejilla::pulsarCabecera(bool doble) {
+  const auto control = control_.lock();
+  if (!control) return;
+  if (sePulsa()) selectionModel()->clearCurrentIndex();
+  atender_([&] { doble ? control->pulsarDoble(0) : control->pulsar(0); });
+}
+
 std::unique_ptr<QMimeData> VistaRejilla::copia() const {
-  const Rejilla& t = control_.tabla;
-  const int cabecera = filasEnCabecera();
+  auto datos = std::make_unique<QMimeData>();
+  const auto control = control_.lock();
+  if (!control) return datos;
+  const Rejilla& t = control->tabla;
+  const int cabecera = filasEnCabecera(t);
+  const auto esTitulo = [&](int f) { return f < t.filasTitulo(); };
   std::set<int> filas, columnas;
-  std::set<std::pair<int, int>> elegidas;
   int enCuerpo = 0;
-  for (const QModelIndex& i : widget_.selectionModel()->selectedIndexes()) {
-    const int f = i.row() + cabecera;
-    filas.insert(f);
+  for (const QModelIndex& i : selectionModel()->selectedIndexes()) {
+    filas.insert(i.row() + cabecera);
     columnas.insert(i.column());
-    elegidas.emplace(f, i.column());
-    if (!esTitulo(f)) ++enCuerpo;
+    if (!esTitulo(i.row() + cabecera)) ++enCuerpo;
   }
-  const bool entera = elegidas.empty() || enCuerpo == (t.filas() - t.filasTitulo) * t.columnas();
+  const bool entera = filas.empty() || enCuerpo == (t.filas() - t.filasTitulo()) * t.columnas();
   if (entera) {
-    int fin = t.filas();
-    const auto vacia = [&](int f) {
-      for (int c = 0; c < t.columnas(); ++c)
-        if (!t.texto(f, c).empty()) return false;
-      return true;
-    };
-    while (fin > t.filasTitulo && vacia(fin - 1)) --fin;
     filas.clear();
-    for (int f = 0; f < fin; ++f) filas.insert(f);
+    for (int f = 0; f < filasConTexto(t); ++f) filas.insert(f);
     for (int c = 0; c < t.columnas(); ++c) columnas.insert(c);
   }
   QString texto, html = QStringLiteral("<meta charset=\"utf-8\"><table>");
@@ -179,14 +166,14 @@ std::unique_ptr<QMimeData> VistaRejilla::copia() const {
     html += QStringLiteral("<tr>");
     const QString marca = esTitulo(f) ? QStringLiteral("th") : QStringLiteral("td");
     for (const int c : columnas) {
-      const QString celda = entera || elegidas.contains({f, c}) ? aQt(t.texto(f, c)) : QString();
+      const bool va = entera || selectionModel()->isSelected(modelo_->index(f - cabecera, c));
+      const QString celda = va ? aQt(t.texto(f, c)) : QString();
       if (c != *columnas.begin()) texto += u'\t';
       texto += celda;
       html += u'<' + marca + u'>' + celda.toHtmlEscaped() + QStringLiteral("</") + marca + u'>';
     }
     html += QStringLiteral("</tr>");
   }
-  auto datos = std::make_unique<QMimeData>();
   datos->setText(texto);
   datos->setHtml(html + QStringLiteral("</table>"));
   return datos;
@@ -194,29 +181,56 @@ std::unique_ptr<QMimeData> VistaRejilla::copia() const {
 
 void VistaRejilla::copiarAlPortapapeles() const { QGuiApplication::clipboard()->setMimeData(copia().release()); }
 
-bool VistaRejilla::eventFilter(QObject*, QEvent* evento) {
-  const bool aviso = evento->type() == QEvent::ShortcutOverride;  // before a menu of the window takes the key
-  if (!aviso && evento->type() != QEvent::KeyPress) return false;
-  auto* tecla = static_cast<QKeyEvent*>(evento);
-  if (tecla->matches(QKeySequence::Copy)) {
-    if (!aviso) copiarAlPortapapeles();
+bool VistaRejilla::event(QEvent* evento) {
+  // before a menu of the window takes the key
+  if (evento->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(evento)->matches(QKeySequence::Copy)) {
     evento->accept();
     return true;
   }
-  if (!aviso && tecla->key() == Qt::Key_Space && widget_.currentRow() >= 0) {  // a click for those without a mouse
-    pulsar(widget_.currentRow(), false);
-    return true;
-  }
-  return false;
+  return QTableView::event(evento);
+}
+
+void VistaRejilla::keyPressEvent(QKeyEvent* evento) {
+  if (evento->matches(QKeySequence::Copy))
+    copiarAlPortapapeles();
+  else if (evento->key() == Qt::Key_Space && sePulsa()) {  // a click for those without a mouse
+    if (currentIndex().isValid()) pulsar(currentIndex().row(), false);
+  } else
+    QTableView::keyPressEvent(evento);
+}
+
+/// Who comes by the tab key finds the first cell marked; a click on the header or a box that goes away marks none.
+void VistaRejilla::focusInEvent(QFocusEvent* evento) {
+  const bool marcada = currentIndex().isValid();
+  QTableView::focusInEvent(evento);
+  const bool porTeclado = evento->reason() == Qt::TabFocusReason || evento->reason() == Qt::BacktabFocusReason;
+  if (sePulsa() && !marcada && !porTeclado) selectionModel()->clearCurrentIndex();
+}
+
+void VistaRejilla::changeEvent(QEvent* evento) {
+  QTableView::changeEvent(evento);
+  if (evento->type() == QEvent::FontChange || evento->type() == QEvent::StyleChange) ajustarAnchos();
+}
+
+// A picture of the window, on paper or for the clipboard, shows a change that was made in the same event.
+void VistaRejilla::paintEvent(QPaintEvent* evento) {
+  if (modelo_ != nullptr) modelo_->ponerseAlDia();
+  QTableView::paintEvent(evento);
+}
+
+bool VistaRejilla::eventFilter(QObject* objeto, QEvent* evento) {
+  if (evento->type() == QEvent::Paint && objeto == horizontalHeader()->viewport() && modelo_ != nullptr)
+    modelo_->ponerseAlDia();
+  return QTableView::eventFilter(objeto, evento);
 }
 
 void VistaRejilla::abrirMenu(const QPoint& donde) {
-  QMenu menu(&widget_);
+  QMenu menu(this);
   const QAction* copiar = menu.addAction(QStringLiteral("Copiar"));
-  if (widget_.selectionMode() != QAbstractItemView::NoSelection) menu.addAction(QStringLiteral("Seleccionar todo"));
-  const QAction* elegida = menu.exec(widget_.viewport()->mapToGlobal(donde));
+  if (!sePulsa()) menu.addAction(QStringLiteral("Seleccionar todo"));
+  const QAction* elegida = menu.exec(viewport()->mapToGlobal(donde));
   if (elegida == nullptr) return;
-  elegida == copiar ? copiarAlPortapapeles() : widget_.selectAll();
+  elegida == copiar ? copiarAlPortapapeles() : selectAll();
 }
 
 }  // namespace calvento

@@ -3,27 +3,26 @@
 #include <functional>
 #include <memory>
 
-#include <QObject>
-#include <QString>
+#include <QTableView>
 
 #include "plataforma/rejilla.h"
 
 class QMimeData;
-class QTableWidget;
-class QTableWidgetItem;
 
 namespace calvento {
 
-/// Shows a table in a QTableWidget: texts, colours, widths, joined headings, and takes it to the clipboard. Plain
-/// heading rows become the lines of the widget's header, which stays in sight; joined ones are the first rows of the
-/// table.
-class VistaRejilla : public QObject {
- public:
-  /// `atender` runs what a click of the user does.
-  using Atender = std::function<void(const std::function<void()>&)>;
-  VistaRejilla(Grid& control, QTableWidget& widget, Atender atender);
+class ModeloRejilla;
 
-  void refrescar();
+/// The widget of a table: texts, colours, widths, joined headings; it takes the table to the clipboard. Plain heading
+/// rows become the lines of the header, which stays in sight.
+class VistaRejilla : public QTableView {
+ public:
+  /// Runs what a click of the user does.
+  using Atender = std::function<void(const std::function<void()>&)>;
+  explicit VistaRejilla(QWidget* padre = nullptr);
+
+  /// Shows that control from now on. The widget may outlive it.
+  void mostrar(Grid& control, Atender atender);
 
   /// The chosen cells as tab-separated text and as HTML; the whole table where all of its cells, or none, are chosen.
   /// The whole table brings its headings; rows without any text at its end stay behind. The caller owns it.
@@ -32,20 +31,28 @@ class VistaRejilla : public QObject {
 
   bool eventFilter(QObject* objeto, QEvent* evento) override;
 
+ protected:
+  bool event(QEvent* evento) override;
+  void paintEvent(QPaintEvent* evento) override;
+  void keyPressEvent(QKeyEvent* evento) override;
+  void focusInEvent(QFocusEvent* evento) override;
+  void changeEvent(QEvent* evento) override;
+
  private:
-  int filasEnCabecera() const;
-  bool esTitulo(int fila) const { return fila < control_.tabla.filasTitulo; }
-  void escribirCelda(int fila, int columna);
-  QString textoCabecera(int columna) const;
-  void pintarCelda(QTableWidgetItem& celda, int fila, int columna) const;
+  bool sePulsa() const;
+  void acomodar();
   void unirTitulos();
   void ajustarAnchos();
-  void pulsar(int filaWidget, bool doble);
+  void pulsar(int fila, bool doble);
+  void pulsarCabecera(bool doble);
   void abrirMenu(const QPoint& donde);
 
-  Grid& control_;
-  QTableWidget& widget_;
+  std::weak_ptr<Grid> control_;
+  ModeloRejilla* modelo_ = nullptr;
   Atender atender_;
 };
 
 }  // namespace calvento
+
+/// The name by which Qt Designer files know the widget.
+using VistaRejilla = calvento::VistaRejilla;

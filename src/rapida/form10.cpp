@@ -20,7 +20,10 @@ void Form10::unirCampos() {
   const auto pistaRapida = [this] { mostrarAncho("Ancho de canal de rápida calculado (b): ", anchoRapida); };
   Text5.Change = [this, pistaRapida] {
     pistaRapida();
-    if (!vacio(Text5.Text)) SECONTROL();
+    if (vacio(Text5.Text))
+      Label27.Caption = "";
+    else
+      SECONTROL();
   };
   for (TextBox* campo : {&Text6, &Text7, &Text8, &Text9, &Text10, &Text11}) campo->Change = [this] { SECONTROL(); };
   Text10.GotFocus = [this, pistaRapida] {

@@ -20,8 +20,7 @@ struct EstacionOndas {
 
 void prepararTabla(Rejilla& t, const DesignState& e, const std::array<Real, 3>& caudales) {
   t = Rejilla(filaInicio + 1, 1 + columnasPorCaudal * static_cast<int>(caudales.size()));
-  t.filasTitulo = 2;
-  t.unirTitulos = true;
+  t.ponerTitulos(2, true);
   static constexpr std::array anchos = {1000, 700, 700, 1900};
   for (int c = 0; c < t.columnas(); ++c) {
     t.ponerAncho(c, anchos[static_cast<std::size_t>(c == 0 ? 0 : (c - 1) % columnasPorCaudal + 1)]);

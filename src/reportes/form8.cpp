@@ -17,7 +17,6 @@ Form8::Form8(const DesignState& estado, Navegador& navegador)
     caja->Resize = [this, caja](int ancho, int alto) {
       caja->lienzo.redimensionarSinCrecer(ancho, alto);
       ejes();
-      caja->cambiado();
     };
 }
 

@@ -62,7 +62,7 @@ Real YA(Real y, Real V, Real b, Real z) {
 void tablaPerfil(Rejilla& tabla, const DesignState& e) {
   tabla = Rejilla();
   tabla.formatoColumnas(columnas);
-  tabla.filasTitulo = 2;
+  tabla.ponerTitulos(2);
   Filas filas(tabla);
   filas.anadir({"( Km+m )", "( msnm )", "( m/seg )", "( msnm )", "( m )", "( m )", ""});
   filas.anadir({"", "", celda(e.vArriba), "", celda(e.ynArriba), celda(YA(e.ynArriba, e.vArriba, e.bArriba, e.zArriba)),

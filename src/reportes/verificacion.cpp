@@ -82,7 +82,7 @@ void prepararVerificacion(Rejilla& t, const EstiloVerificacion& estilo) {
       {1600, {"FUNCIONAMIENTO", "DE LA POZA", ""}},
   }};
   t = Rejilla(filasTitulo + caudales, columnas);
-  t.filasTitulo = filasTitulo;
+  t.ponerTitulos(filasTitulo);
   for (int c = 0; c < columnas; ++c) {
     const Columna& columna = todas[static_cast<std::size_t>(c)];
     t.ponerAncho(c, columna.ancho);

@@ -98,11 +98,11 @@ TEST_F(Marco, CajaDeAumento) {
   for (const auto& c : casos) {
     const EscalaLienzo antes = m.GRAF.lienzo.escala();
     m.GRAF.MouseDown(c.a);
-    EXPECT_TRUE(m.GRAF.recuadro.visible);
+    EXPECT_TRUE(m.GRAF.recuadro.valor().visible);
     m.GRAF.MouseMoveEn(c.b);
-    EXPECT_EQ(m.GRAF.recuadro.b, c.b);
+    EXPECT_EQ(m.GRAF.recuadro.valor().b, c.b);
     m.GRAF.MouseUp(c.b);
-    EXPECT_FALSE(m.GRAF.recuadro.visible);
+    EXPECT_FALSE(m.GRAF.recuadro.valor().visible);
     EXPECT_EQ(m.GRAF.lienzo.escala() != antes, c.vale) << c.b.x;
   }
   EXPECT_EQ(m.Label5.Caption.valor(), "(103.500,94.000)") << "the pointer as station and elevation";

@@ -149,6 +149,7 @@ class Escena {
     if (que == "calculado") return dynamic_cast<VentanaDatos*>(ventana_)->calculado();
     if (que == "Caption") return ventana_->Caption.valor();
     if (que == "Panel1") return ventana_->buscar<StatusBar>("sbStatusBar")->Panel1.valor();
+    if (que == "Nota") return ventana_->buscar<StatusBar>("sbStatusBar")->Nota.valor();
     if (que == "menus" || que == "llenos") return lista(que == "menus");
     const auto [v, nombre] = donde(que);
     const std::size_t fin = std::min(nombre.find('['), nombre.find('.'));

@@ -8,6 +8,7 @@
 #include "apoyo/navegador_mudo.h"
 #include "dibujo/estado_rapida.h"
 #include "dibujo/form3.h"
+#include "pantalla.h"
 #include "plataforma/lienzo.h"
 #include "plataforma/ventana.h"
 #include "qt/vista_lienzo.h"
@@ -34,8 +35,9 @@ class EnPantalla : public testing::Test {
     vista->resize(ancho, alto);
     vista->mostrar(caja);
     vista->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(vista.get()));
   }
-  QColor punto(int x, int y) { return vista->grab().toImage().pixelColor(x, y); }
+  QColor punto(int x, int y) { return enPantalla(*vista).pixelColor(x, y); }
   std::unique_ptr<VentanaPrueba> v = std::make_unique<VentanaPrueba>();
   std::unique_ptr<VistaLienzo> vista = std::make_unique<VistaLienzo>();
 };
@@ -48,19 +50,16 @@ TEST_F(EnPantalla, MuestraYRepiteElDibujoEnPapelBlanco) {
   EXPECT_EQ(punto(150, 75), blanco);
   v->GRAF.lienzo.FillColor = color::verde;
   v->GRAF.lienzo.Polygon({{10, 5}, {20, 5}, {20, 10}, {10, 10}});
-  v->GRAF.cambiado();
   EXPECT_EQ(punto(150, 25), QColor(0, 255, 0));
 
   // the rubber box lies above the drawing and goes without a trace
-  const QImage sin = vista->grab().toImage();
+  const QImage sin = enPantalla(*vista);
   v->GRAF.recuadro = {true, {12, 8}, {18, 6}};
-  v->GRAF.cambiado();
-  const QImage con = vista->grab().toImage();
+  const QImage con = enPantalla(*vista);
   EXPECT_NE(con, sin);
   EXPECT_EQ(con.copy(0, 0, 110, 100), sin.copy(0, 0, 110, 100));
-  v->GRAF.recuadro.visible = false;
-  v->GRAF.cambiado();
-  EXPECT_EQ(vista->grab().toImage(), sin);
+  v->GRAF.recuadro = {};
+  EXPECT_EQ(enPantalla(*vista), sin);
 }
 
 TEST_F(EnPantalla, OtroTamanoSeAvisaYSinAvisoSeGuardanLasProporciones) {
@@ -87,7 +86,7 @@ TEST_F(EnPantalla, SobreviveALaVentanaQueMuestraYAlReves) {
   VentanaPrueba otra;
   vista->mostrar(otra.GRAF);
   vista.reset();
-  otra.GRAF.cambiado();
+  otra.GRAF.lienzo.Cls();
 }
 
 TEST_F(EnPantalla, UnaCajaArrastradaAmpliaElDibujoDeLaRapida) {
