@@ -8,7 +8,8 @@
 namespace calvento {
 
 Form1::Form1(DesignState& estado, Form2& parametros, Dialogos& dialogos, Navegador& navegador)
-    : VentanaTanques(formatoCaidaInclinada, estado, parametros, dialogos, navegador, "En canal de rampa:", false) {
+    : VentanaTanques(formatoCaidaInclinada, estado, parametros, dialogos, navegador, "Bordo libre: En canal de rampa",
+                     false) {
   seleccionarAlEnfocar(*this);
   Text5.Change = [this] { mostrarAncho("Ancho de poza calculado (B): ", anchoPoza); };
   Command6.Click = [this] { ponerAncho(Text23, anchoPoza); };

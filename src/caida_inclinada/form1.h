@@ -13,8 +13,10 @@ class Form1 : public VentanaTanques, private PantallaInclinada {
  public:
   Form1(DesignState& estado, Form2& parametros, Dialogos& dialogos, Navegador& navegador);
 
-  TextBox Text3{*this, "Text3", "10"};  ///< ahogamiento, percent
-  Label Label29{*this, "Label29"};      ///< drowning ratio
+  TextBox Text3{
+      *this, "Text3", "10", {"k, ahogamiento del resalto", "%", Dominio::noNegativos}};  ///< ahogamiento, percent
+  Label Label29{
+      *this, "Label29", "", {"Ahogamiento que iguala los niveles de agua a la salida", ""}};  ///< drowning ratio
   Menu mnsuper{*this, "mnsuper"};
 
   // Layers of the sketch: lines and symbols of the control section and of the supercritical grade

@@ -10,6 +10,7 @@ namespace calvento {
 Form16::Form16(DesignState& estado, Form25& parametros, Dialogos& dialogos, Navegador& navegador)
     : VentanaEstructura(formatoCaidaVertical, estado, parametros, dialogos, navegador), parametros_(parametros) {
   seleccionarAlEnfocar(*this);
+  Text23.magnitud.nombre = "Poza: Ancho poza(B)";
   Text5.Change = [this] {
     if (algunoVacio({&Text5, &Text6, &Text7, &Text8, &Text9})) {
       sbStatusBar.Panel1 = "";

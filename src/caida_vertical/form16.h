@@ -13,10 +13,11 @@ class Form16 : public VentanaEstructura, private PantallaVertical {
  public:
   Form16(DesignState& estado, Form25& parametros, Dialogos& dialogos, Navegador& navegador);
 
-  TextBox Text22{*this, "Text22", "0"};              ///< zRampaSalida
-  OptionButton Option1{*this, "Option1", 1, true};   ///< without obstacles
-  OptionButton Option2{*this, "Option2", 1, false};  ///< with obstacles
-  Label Label48{*this, "Label48"};                   ///< rise of the control section
+  TextBox Text22{*this, "Text22", "0", {"Rampa de salida: Talud", "", Dominio::noNegativos}};  ///< zRampaSalida
+  OptionButton Option1{*this, "Option1", 1, true};                                             ///< without obstacles
+  OptionButton Option2{*this, "Option2", 1, false};                                            ///< with obstacles
+  Label Label48{
+      *this, "Label48", "", {"Sobre elevación en la sección de control", "m"}};  ///< rise of the control section
   Menu mnseccion{*this, "mnseccion"};
 
   // The sketch: the row of blocks, and the two lengths that are named by the option

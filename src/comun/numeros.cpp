@@ -174,8 +174,8 @@ bool esNumero(std::string_view t) {
 std::string conPuntoDecimal(std::string_view texto) {
   std::string s(texto);
   if (s.find(',') == std::string::npos) return s;
-  static const std::regex milesConPunto(R"(\s*[-+]?\d{1,3}(\.\d{3})+,\d+\s*)");
-  static const std::regex milesConComa(R"(\s*[-+]?\d{1,3}(,\d{3})+\.\d+\s*)");
+  static const std::regex milesConPunto(R"(\s*[-+]?\d{1,3}(\.\d{3})+,\d*\s*)");
+  static const std::regex milesConComa(R"(\s*[-+]?\d{1,3}(,\d{3})+\.\d*\s*)");
   // the expressions recurse on every digit: a text that no field could show is no number with separators
   constexpr std::size_t sinSentido = 100;
   if (s.size() < sinSentido) {

@@ -15,7 +15,7 @@ Real Val(std::string_view texto);
 bool esNumero(std::string_view texto);
 
 /// A number as people type it with the point as its decimal sign: "2,5" gives "2.5"; in a number with thousands
-/// separators ("1.234,56", "1,234.56") these are dropped.
+/// separators ("1.234,56", "1,234.56") these are dropped as soon as the decimal sign behind them stands ("1.234,").
 std::string conPuntoDecimal(std::string_view texto);
 
 /// Rounds to so many decimals, ties to the even digit.

@@ -16,6 +16,7 @@ VentanaEstructura::VentanaEstructura(const FormatoProyecto& formato, DesignState
       estado_(estado),
       dialogos_(dialogos),
       navegador_(navegador),
+      deParametros_(parametros),
       proyecto_(formato, estado, *this, parametros, dialogos) {
   unirArchivo();
   Command3.Click = [this] { Command3_Click(); };
@@ -54,10 +55,25 @@ void VentanaEstructura::empezarNuevo() {
 void VentanaEstructura::Command3_Click() {
   contarCalculo();
   calculado_ = false;
+  quitarSenales(*this);
+  quitarSenales(deParametros_);
   try {
     calculado_ = calcular();
   } catch (const FalloAritmetico& fallo) {
-    dialogos_.fallo(std::string(fallo.what()) + ": Ingresar datos correctamente, verificar");
+    contarFallo(fallo);
+  }
+}
+
+/// The fields that may be the reason are marked already behind the box; what is in sight is corrected first.
+void VentanaEstructura::contarFallo(const FalloAritmetico& fallo) {
+  const bool aqui = senalarDudosos(*this);
+  const bool enParametros = senalarDudosos(deParametros_);
+  dialogos_.fallo(std::string(fallo.what()) + ": Ingresar datos correctamente, verificar");
+  if (aqui) {
+    disparar(alPedirCorreccion);
+  } else if (enParametros) {
+    navegador_.mostrar(deParametros_.nombre());
+    disparar(deParametros_.alPedirCorreccion);
   }
 }
 

@@ -22,25 +22,27 @@ class VentanaEstructura : public VentanaDatos {
   VentanaEstructura(const FormatoProyecto& formato, DesignState& estado, Ventana& parametros, Dialogos& dialogos,
                     Navegador& navegador);
 
-  TextBox Text5{*this, "Text5"};  ///< Q
+  TextBox Text5{*this, "Text5", "", {"Caudal (Q)", "m³/s", Dominio::positivos}};  ///< Q
   // Upstream canal
-  TextBox Text6{*this, "Text6"};  ///< bArriba
-  TextBox Text7{*this, "Text7"};  ///< zArriba
-  TextBox Text8{*this, "Text8"};  ///< nArriba
-  TextBox Text9{*this, "Text9"};  ///< sArriba
+  TextBox Text6{
+      *this, "Text6", "", {"Aguas arriba: Ancho de base(b)", "m", Dominio::noNegativos, &Text7}};  ///< bArriba
+  TextBox Text7{*this, "Text7", "", {"Aguas arriba: Talud(Z)", "", Dominio::noNegativos}};         ///< zArriba
+  TextBox Text8{*this, "Text8", "", {"Aguas arriba: Rugosidad(n)", "", Dominio::positivos}};       ///< nArriba
+  TextBox Text9{*this, "Text9", "", {"Aguas arriba: Pendiente(S)", "m/m", Dominio::positivos}};    ///< sArriba
   // Downstream canal
-  TextBox Text16{*this, "Text16"};  ///< bAbajo
-  TextBox Text18{*this, "Text18"};  ///< zAbajo
-  TextBox Text19{*this, "Text19"};  ///< nAbajo
-  TextBox Text20{*this, "Text20"};  ///< sAbajo
+  TextBox Text16{
+      *this, "Text16", "", {"Aguas abajo: Ancho de base(b)", "m", Dominio::noNegativos, &Text18}};  ///< bAbajo
+  TextBox Text18{*this, "Text18", "", {"Aguas abajo: Talud(Z)", "", Dominio::noNegativos}};         ///< zAbajo
+  TextBox Text19{*this, "Text19", "", {"Aguas abajo: Rugosidad(n)", "", Dominio::positivos}};       ///< nAbajo
+  TextBox Text20{*this, "Text20", "", {"Aguas abajo: Pendiente(S)", "m/m", Dominio::positivos}};    ///< sAbajo
   // Chainage, elevations and basin
-  TextBox Text25{*this, "Text25"};  ///< progresivaInicio
-  TextBox Text2{*this, "Text2"};    ///< cotaFin
-  TextBox Text4{*this, "Text4"};    ///< cotaAbajo
-  TextBox Text23{*this, "Text23"};  ///< basin width
+  TextBox Text25{*this, "Text25", "", {"Progresiva", "m"}};                                        ///< progresivaInicio
+  TextBox Text2{*this, "Text2", "", {"Elev. Inicio de Caída", "m"}};                               ///< cotaFin
+  TextBox Text4{*this, "Text4", "", {"Elev. Salida", "m"}};                                        ///< cotaAbajo
+  TextBox Text23{*this, "Text23", "", {"Poza/Tanque: Ancho Tanque(B)", "m", Dominio::positivos}};  ///< basin width
 
-  Frame Frame1{*this, "Frame1"};    ///< group of the control section
-  Label Label41{*this, "Label41"};  ///< regime note
+  Frame Frame1{*this, "Frame1"};                                                ///< group of the control section
+  Label Label41{*this, "Label41", "", {"Régimen del canal aguas arriba", ""}};  ///< regime note
   StatusBar sbStatusBar{*this, "sbStatusBar"};
 
   CommandButton Command6{*this, "Command6"};  ///< suggests the basin width
@@ -114,6 +116,7 @@ class VentanaEstructura : public VentanaDatos {
   void unirArchivo();
   void contarCalculo();
   void empezarNuevo();
+  void contarFallo(const FalloAritmetico& fallo);
 
   /// One of the result windows: the menu that stands for it and what opens it.
   struct Resultado {
@@ -122,6 +125,7 @@ class VentanaEstructura : public VentanaDatos {
     Evento mostrar;
   };
   std::vector<Resultado> resultados_;
+  Ventana& deParametros_;
   Proyecto proyecto_;
   bool calculado_ = false;
 };

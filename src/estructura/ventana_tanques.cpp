@@ -13,7 +13,7 @@ VentanaTanques::VentanaTanques(const FormatoProyecto& formato, DesignState& esta
       parametros_(parametros),
       longitudEnRejilla_(longitudEnRejilla) {
   prepararTablaTanques(Grid1.tabla);
-  parametros_.Label30.Caption = rotuloRampa;
+  parametros_.nombrarRampa(rotuloRampa);
   mnparam.Click = abre("Form2");
   // the tooltip and the status bar differ on purpose, and neither limits the entry
   pistaTalud(Text21, "1.5 < Z1 < 2", "1.5 <= Z1 <= 2");

@@ -11,15 +11,17 @@ namespace calvento {
 /// feasibility table and the parameter window they serve in turn.
 class VentanaTanques : public VentanaEstructura {
  public:
-  /// `rotuloRampa`: what the parameter window calls the freeboard of this structure. `longitudEnRejilla`: a length that
-  /// comes from a click on the table goes to the 0.05 grid.
+  /// `rotuloRampa`: what the freeboard of this structure in the parameter window is called. `longitudEnRejilla`: a
+  /// length that comes from a click on the table goes to the 0.05 grid.
   VentanaTanques(const FormatoProyecto& formato, DesignState& estado, Form2& parametros, Dialogos& dialogos,
                  Navegador& navegador, const char* rotuloRampa, bool longitudEnRejilla);
 
-  TextBox Text24{*this, "Text24"};         ///< side slope of the basin
-  TextBox Text21{*this, "Text21", "2"};    ///< zRampaEntrada
-  TextBox Text22{*this, "Text22", "1.5"};  ///< zRampaSalida
-  Label Label27{*this, "Label27"};         ///< rise of the control section
+  TextBox Text24{
+      *this, "Text24", "", {"Poza/Tanque: Talud(Z)", "", Dominio::noNegativos}};  ///< side slope of the basin
+  TextBox Text21{*this, "Text21", "2", {"Rampa de ingreso: Talud", "", Dominio::positivos}};     ///< zRampaEntrada
+  TextBox Text22{*this, "Text22", "1.5", {"Rampa de salida: Talud", "", Dominio::noNegativos}};  ///< zRampaSalida
+  Label Label27{
+      *this, "Label27", "", {"Sobre elevación en la sección de control", "m"}};  ///< rise of the control section
   Grid Grid1{*this, "Grid1"};
   Menu mnst{*this, "mnst"};
   Menu mntabla{*this, "mntabla"};

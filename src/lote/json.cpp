@@ -90,6 +90,14 @@ void escribirMensajes(EscritorJson& j, const std::vector<Mensaje>& mensajes) {
   j.cerrarLista();
 }
 
+void escribirNotas(EscritorJson& j, const std::vector<std::string>& notas) {
+  if (notas.empty()) return;
+  j.clave("notas");
+  j.abrirLista();
+  for (const std::string& nota : notas) j.texto(nota);
+  j.cerrarLista();
+}
+
 void escribirEstado(EscritorJson& j, const DesignState& estado) {
   j.clave("estado");
   j.abrirObjeto();
@@ -265,6 +273,7 @@ std::string comoJson(const Sesion& s) {
   j.abrirObjeto();
   escribirCabecera(j, s.archivo(), s.estructura(), s.calculado());
   escribirMensajes(j, s.mensajes());
+  escribirNotas(j, s.notas());
   if (s.ventana() != nullptr) {
     escribirEstado(j, s.estado());
     escribirPerfiles(j, s.estado());

@@ -53,7 +53,7 @@ std::string datos(const Sesion& sesion) {
 }
 
 /// What the window remarks in its labels.
-std::string notas(const Sesion& sesion) {
+std::string observaciones(const Sesion& sesion) {
   std::string s;
   for (const std::string_view nombre : sesion.estructura()->notas) {
     const auto* etiqueta = sesion.ventana()->buscar<Label>(nombre);
@@ -65,7 +65,7 @@ std::string notas(const Sesion& sesion) {
 
 std::string resultados(const Sesion& sesion) {
   std::string s = "\nRESULTADOS\n";
-  if (!sesion.calculado()) return s + "  El cálculo no llegó a su fin.\n" + notas(sesion);
+  if (!sesion.calculado()) return s + "  El cálculo no llegó a su fin.\n" + observaciones(sesion);
   for (const Linea<Valor>& l : sesion.estructura()->ficha().resultados) {
     std::vector<std::string> piezas;
     for (const Valor& v : l.piezas) {
@@ -76,7 +76,7 @@ std::string resultados(const Sesion& sesion) {
     }
     s += linea(l.lugar, piezas);
   }
-  return s + notas(sesion);
+  return s + observaciones(sesion);
 }
 
 std::string tablaTanques(const Sesion& sesion) {
@@ -153,6 +153,12 @@ std::string comprobaciones(const Sesion& sesion) {
   return s;
 }
 
+std::string notas(const Sesion& sesion) {
+  std::string s = sesion.notas().empty() ? "" : "\nNOTAS\n";
+  for (const std::string& nota : sesion.notas()) s += "  " + visible(nota) + "\n";
+  return s;
+}
+
 std::string mensajes(const Sesion& sesion) {
   std::string s = "\nMENSAJES\n";
   if (sesion.mensajes().empty()) s += "  ninguno\n";
@@ -178,7 +184,8 @@ std::string comoResumen(const Sesion& sesion) {
   // of a project that was not read there is nothing to show but why
   if (sesion.ventana() != nullptr && !sesion.estado().esNuevo) {
     s += visible(sesion.ventana()->Caption.valor()) + "\n";
-    s += datos(sesion) + resultados(sesion) + tablaTanques(sesion) + verificaciones(sesion) + comprobaciones(sesion);
+    s += datos(sesion) + resultados(sesion) + tablaTanques(sesion) + verificaciones(sesion) + comprobaciones(sesion) +
+         notas(sesion);
   }
   return s + mensajes(sesion) + "\n";
 }

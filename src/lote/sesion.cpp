@@ -30,6 +30,7 @@ Sesion::Sesion(const Opciones& opciones, std::string archivo)
   pantalla_.atender();
   mensajes_ = dialogos_.mensajes;
   estado_ = aplicacion_.estado;
+  anotarLecturas();
   abrirReportes();
 }
 
@@ -50,6 +51,19 @@ void Sesion::ejecutar(const Opciones& opciones) {
   ponerCampos(opciones, false);
   for (int i = cambiado ? -1 : 0; i < opciones.veces; ++i) ventana_->Command3_Click();
   calculado_ = ventana_->calculado();
+}
+
+void Sesion::anotarLecturas() {
+  if (ventana_ == nullptr || aplicacion_.estado.esNuevo) return;
+  for (const Ventana* v :
+       std::initializer_list<const Ventana*>{ventana_, aplicacion_.cargada(estructura_->ficha().parametros)})
+    for (const Control* c : v->controles()) {
+      const auto* campo = dynamic_cast<const TextBox*>(c);
+      if (campo == nullptr || campo->lectura().empty()) continue;
+      std::string nota = v == ventana_ ? std::string(estructura_->formato->titulo) : v->Caption.valor();
+      notas_.push_back(nota + ", " + std::string(campo->magnitud.nombre) + ": «" + campo->Text.valor() + "». " +
+                       campo->lectura());
+    }
 }
 
 void Sesion::abrirReportes() {

@@ -64,6 +64,9 @@ class Sesion {
   /// The boxes of all presses, and the record as the last one left it: result windows opened later may write into the
   /// live one.
   const std::vector<Mensaje>& mensajes() const { return mensajes_; }
+  /// One line for each field of the data window and of its parameter window whose text is not wholly the number that is
+  /// read from it.
+  const std::vector<std::string>& notas() const { return notas_; }
   const DesignState& estado() const { return estado_; }
   /// The result windows whose menus are enabled.
   const std::vector<ReporteAbierto>& reportes() const { return reportes_; }
@@ -79,6 +82,7 @@ class Sesion {
  private:
   void ejecutar(const Opciones& opciones);
   void abrirReportes();
+  void anotarLecturas();
   void ponerCampos(const Opciones& opciones, bool deParametros);
 
   std::string archivo_;
@@ -86,6 +90,7 @@ class Sesion {
   bool accesible_ = false;
   bool calculado_ = false;
   std::vector<Mensaje> mensajes_;
+  std::vector<std::string> notas_;
   DesignState estado_;
   std::vector<ReporteAbierto> reportes_;
   VentanaDatos* ventana_ = nullptr;

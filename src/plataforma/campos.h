@@ -8,4 +8,10 @@ namespace calvento {
 /// own event afterwards and selects first.
 void seleccionarAlEnfocar(Ventana& ventana);
 
+/// Marks the fields of a window that a calculation reads and that cannot be what the user meant: empty, outside their
+/// domain, or not wholly a number. Whether there is one.
+bool senalarDudosos(Ventana& ventana);
+/// Takes the marks of a former calculation away.
+void quitarSenales(Ventana& ventana);
+
 }  // namespace calvento

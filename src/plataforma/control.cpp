@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "comun/fallo.h"
 #include "comun/numeros.h"
 #include "plataforma/ventana.h"
 
@@ -22,8 +23,36 @@ void TextBox::seleccionarTodo() {
 
 void TextBox::escribir(const std::string& texto) { Text = numerico ? conPuntoDecimal(texto) : texto; }
 
+std::string TextBox::lectura() const {
+  if (!numerico || vacio(Text) || esNumero(Text)) return {};
+  std::string s = "Número demasiado grande";
+  pasandoFallos([&] { s = "Se lee " + texto(Val(Text)); });
+  return s;
+}
+
+std::string TextBox::falta() const {
+  if (vacio(Text)) return "Falta este dato";
+  std::string s = "Número demasiado grande";
+  pasandoFallos([&] {
+    const Single v = Val(Text);
+    s.clear();
+    if (magnitud.dominio == Dominio::positivos && v <= 0) s = "Debe ser mayor que 0";
+    if (magnitud.dominio == Dominio::noNegativos && v < 0) s = "No puede ser negativo";
+    if (v == 0 && magnitud.sinCeroCon != nullptr && Val(magnitud.sinCeroCon->Text) == 0)
+      s = "No puede ser 0 a la vez que " + std::string(magnitud.sinCeroCon->magnitud.nombre);
+  });
+  return s;
+}
+
+std::string TextBox::reparo() const {
+  const std::string leido = lectura();
+  return leido.empty() || leido == Senal.valor() ? Senal.valor() : vacio(Senal) ? leido : leido + ". " + Senal.valor();
+}
+
 void TextBox::trasCambiar(const void* propiedad) {
-  if (propiedad == &Text) disparar(Change);
+  if (propiedad != &Text) return;
+  Senal = std::string();
+  disparar(Change);
 }
 
 void OptionButton::trasCambiar(const void* propiedad) {

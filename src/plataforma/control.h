@@ -62,20 +62,38 @@ class Vinculable {
   std::shared_ptr<Vinculable> vida_{this, [](Vinculable*) {}};
 };
 
+/// Which numbers have a sense in a field.
+enum class Dominio { todos, noNegativos, positivos };
+
+class TextBox;
+
+/// What a value is, for whom the window's design alone does not tell it: screen readers, notes, checks. Texts live as
+/// long as the program.
+struct Magnitud {
+  std::string_view nombre;  ///< in the user's words, with the group that it stands in
+  std::string_view unidad;  ///< empty: none
+  Dominio dominio = Dominio::todos;
+  /// A neighbour that must be more than 0 where this one is 0: a canal without a bottom width needs a side slope.
+  const TextBox* sinCeroCon = nullptr;
+  bool loLeeElCalculo = true;  ///< false: read by what follows the calculation only
+};
+
 /// A label whose caption the program changes. (Fixed captions live in the window's design only.)
 class Label : public Control {
  public:
-  Label(Ventana& v, std::string_view nombre, std::string inicial = {})
-      : Control(v, nombre), Caption(*this, std::move(inicial)) {}
+  Label(Ventana& v, std::string_view nombre, std::string inicial = {}, Magnitud m = {})
+      : Control(v, nombre), Caption(*this, std::move(inicial)), magnitud(m) {}
   Propiedad<std::string> Caption;
+  Magnitud magnitud;
 };
 
 /// A field. Assigning Text raises Change, as typing does.
 class TextBox : public Control {
  public:
-  TextBox(Ventana& v, std::string_view nombre, std::string inicial = {})
-      : Control(v, nombre), Text(*this, std::move(inicial)) {}
+  TextBox(Ventana& v, std::string_view nombre, std::string inicial = {}, Magnitud m = {})
+      : Control(v, nombre), Text(*this, std::move(inicial)), magnitud(m) {}
   Propiedad<std::string> Text;
+  Magnitud magnitud;
   Evento Change;
   Evento KeyReturn;
   /// A number field turns a typed or pasted decimal comma into a point.
@@ -86,6 +104,17 @@ class TextBox : public Control {
   void seleccionarTodo();
   /// Replaces the text as typing or pasting does.
   void escribir(const std::string& texto);
+
+  /// "Se lee 1.25" where a number field's text is more than the number that Val reads from it; empty where it is that
+  /// number, and for an empty field.
+  std::string lectura() const;
+  /// What keeps the text from being a value that the field is for: nothing typed, a number outside its domain or too
+  /// large for the record. Empty: nothing.
+  std::string falta() const;
+  /// What a calculation that failed has found wrong with the field, until its text changes.
+  Propiedad<std::string> Senal{*this, {}};
+  /// All that is to be told of the text, `lectura` and `Senal`; a field with any of it is shown marked.
+  std::string reparo() const;
 
  protected:
   void trasCambiar(const void* propiedad) override;

@@ -36,6 +36,9 @@ class Ventana : public Notificable {
   /// The button that the return key presses; nullptr where there is none.
   virtual CommandButton* botonPredeterminado() { return nullptr; }
 
+  /// Set by the one that shows the window: brings the focus to the first field that is marked.
+  Evento alPedirCorreccion;
+
   /// Set by the one that shows the window; called when its caption changes.
   Evento alCambiar;
   void alCambiarPropiedad(const void*) override { disparar(alCambiar); }

@@ -12,6 +12,11 @@ Form2::Form2(Navegador& navegador) : Ventana("Form2", "Bordo Libre - Transición
   Command3.Click = [this] { Command3_Click(); };
 }
 
+void Form2::nombrarRampa(std::string_view bordoLibre) {
+  Text6.magnitud.nombre = bordoLibre;
+  Label30.Caption = std::string(bordoLibre.substr(bordoLibre.find(": ") + 2)) + ":";
+}
+
 void Form2::Command3_Click() {
   Text1.Text = texto(Real(5));
   Text2.Text = texto(Real(6.1));

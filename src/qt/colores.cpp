@@ -16,6 +16,14 @@ double luminancia(const QColor& c) {
   return 0.2126 * lineal(c.redF()) + 0.7152 * lineal(c.greenF()) + 0.0722 * lineal(c.blueF());
 }
 
+/// A light background turns rosy, a dark one wine red; both keep their lightness, so the text stays readable.
+QColor tenido(const QColor& fondo) {
+  constexpr double parte = 0.3;
+  const QColor falta(0xe0, 0x30, 0x28);
+  const auto mezcla = [](int a, int b) { return static_cast<int>(std::lround(a + parte * (b - a))); };
+  return {mezcla(fondo.red(), falta.red()), mezcla(fondo.green(), falta.green()), mezcla(fondo.blue(), falta.blue())};
+}
+
 bool fondoPorDefecto(Color c) { return c == color::ventana; }
 bool textoPorDefecto(Color c) { return c == color::textoBoton || c == color::textoVentana; }
 
@@ -47,10 +55,10 @@ QColor legibleSobre(const QColor& texto, const QColor& fondo) {
   return c;
 }
 
-void aplicarColores(QWidget& widget, Color fondo, Color texto) {
+void aplicarColores(QWidget& widget, Color fondo, Color texto, bool marcado) {
   widget.setPalette(QPalette());  // what the window and the desktop give
   widget.setAutoFillBackground(false);
-  if (fondoPorDefecto(fondo) && textoPorDefecto(texto)) return;
+  if (fondoPorDefecto(fondo) && textoPorDefecto(texto) && !marcado) return;
 
   QPalette paleta = widget.palette();
   const QPalette::ColorRole papel = widget.backgroundRole();
@@ -60,6 +68,10 @@ void aplicarColores(QWidget& widget, Color fondo, Color texto) {
     paleta.setColor(QPalette::Base, suelo);
     paleta.setColor(papel, suelo);
     widget.setAutoFillBackground(true);
+  }
+  if (marcado) {
+    suelo = tenido(paleta.color(QPalette::Base));
+    paleta.setColor(QPalette::Base, suelo);
   }
   QColor letra;
   if (!textoPorDefecto(texto))

@@ -22,7 +22,8 @@ double contraste(const QColor& a, const QColor& b);
 QColor textoPara(const QColor& fondo);
 
 /// Writes the colours of a control into its widget. Default colours leave the desktop's palette alone; a fixed
-/// background always brings its own text colour, so that a dark desktop stays readable.
-void aplicarColores(QWidget& widget, Color fondo, Color texto);
+/// background always brings its own text colour, so that a dark desktop stays readable. A marked field is tinted in the
+/// colour of faults.
+void aplicarColores(QWidget& widget, Color fondo, Color texto, bool marcado = false);
 
 }  // namespace calvento

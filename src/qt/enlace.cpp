@@ -17,6 +17,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QTabBar>
 #include <QTextEdit>
 #include <QToolBar>
@@ -110,6 +111,9 @@ Enlace::Enlace(Ventana& ventana, QMainWindow& vista, AlFallar alFallar)
     if (!vivo.expired()) vista_.setWindowTitle(aQt(ventana_->Caption.valor()));
   };
   disparar(ventana.alCambiar);
+  ventana.alPedirCorreccion = [this, vivo = std::weak_ptr<bool>(vivo_)] {
+    if (!vivo.expired()) enfocarMarcado();
+  };
   if (CommandButton* boton = ventana.botonPredeterminado())
     if (auto* pulsador = vista.findChild<QPushButton*>(aQt(boton->nombre()))) pulsador->setDefault(true);
   vista_.installEventFilter(this);
@@ -119,6 +123,7 @@ void Enlace::soltar() {
   if (ventana_ == nullptr) return;
   for (Control* control : ventana_->controles()) control->alCambiar = nullptr;
   ventana_->alCambiar = nullptr;
+  ventana_->alPedirCorreccion = nullptr;
   ventana_ = nullptr;
   vivo_.reset();
 }
@@ -196,6 +201,18 @@ void Enlace::alEnfocar(Control& control, QObject* objeto, QEvent* evento) {
   enfocadoPorRaton_ = objeto;
   inicioElegido_ = linea->selectionStart();
   largoElegido_ = linea->selectionLength();
+}
+
+/// The first marked field in the order of the Tab key, which is the order on the sheet.
+void Enlace::enfocarMarcado() {
+  for (QWidget* w = vista_.nextInFocusChain(); w != nullptr && w != &vista_; w = w->nextInFocusChain()) {
+    const auto* campo = dynamic_cast<TextBox*>(controlDe_.value(w));
+    if (campo == nullptr || !campo->Enabled || campo->reparo().empty()) continue;
+    for (QWidget* pagina = w; pagina != &vista_; pagina = pagina->parentWidget())
+      if (auto* pila = qobject_cast<QStackedWidget*>(pagina->parentWidget())) pila->setCurrentWidget(pagina);
+    w->setFocus(Qt::OtherFocusReason);
+    return;
+  }
 }
 
 void Enlace::alSoltarRaton(QLineEdit& linea) {

@@ -81,6 +81,7 @@ class Enlace : public QObject {
 
   bool alPulsarTecla(QObject* objeto, QEvent* evento);
   void alEnfocar(Control& control, QObject* objeto, QEvent* evento);
+  void enfocarMarcado();
   void alSoltarRaton(QLineEdit& linea);
 
   Ventana* ventana_;
@@ -89,6 +90,8 @@ class Enlace : public QObject {
   std::shared_ptr<bool> vivo_ = std::make_shared<bool>(true);
   QHash<QObject*, Control*> controlDe_;
   std::vector<Refresco> refrescos_;
+
+  const QLineEdit* escribiendo_ = nullptr;  ///< the field that takes a text of the program at this moment
 
   // a click that brings the focus would undo the selection that the focus made, so it is made again at its end
   QPointer<QObject> enfocadoPorRaton_;

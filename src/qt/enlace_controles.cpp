@@ -14,6 +14,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QToolBar>
@@ -23,6 +24,7 @@
 #include "qt/colores.h"
 #include "qt/enlace.h"
 #include "qt/numero_tecleado.h"
+#include "qt/resultado_accesible.h"
 #include "qt/vista_lienzo.h"
 #include "qt/vista_rejilla.h"
 
@@ -62,6 +64,14 @@ void escribirTexto(const TextBox& campo, QLineEdit& linea, NumeroTecleado* numer
   const NumeroTecleado::Pausa tal(numero);
   linea.setText(aQt(campo.Text.valor()));
   linea.setCursorPosition(std::min(cursor, static_cast<int>(linea.text().size())));
+}
+
+/// How a field is announced; empty where its control does not tell.
+QString nombreDe(const Magnitud& m) {
+  if (m.nombre.empty()) return {};
+  const QString nombre = aQt(std::string(m.nombre));
+  return m.unidad.empty() ? nombre + QStringLiteral(", sin unidad")
+                          : nombre + QStringLiteral(" (") + aQt(std::string(m.unidad)) + u')';
 }
 
 /// The accessible name of the field that goes with the label follows its caption.
@@ -108,17 +118,27 @@ Enlace::Refresco Enlace::comunes(Control& control, QWidget& widget) {
     Color fondo = color::ventana;
     Color texto = color::textoBoton;
     qint64 paleta = 0;
+    bool marcado = false;
+    bool operator==(const Pintado&) const = default;
   };
   auto ultimo = std::make_shared<Pintado>();
   ultimo->paleta = widget.parentWidget()->palette().cacheKey();
-  return [&control, w = &widget, ultimo] {
+  const auto* linea = qobject_cast<QLineEdit*>(&widget);
+  const auto* campo = linea != nullptr && !linea->isReadOnly() ? dynamic_cast<TextBox*>(&control) : nullptr;
+  return [&control, w = &widget, ultimo, campo, consejo = widget.toolTip()] {
     w->setEnabled(control.Enabled);
     if (w->isHidden() == control.Visible) w->setVisible(control.Visible);
-    if (!vacio(control.ToolTipText)) w->setToolTip(aQt(control.ToolTipText.valor()));
-    const auto actual = w->parentWidget()->palette().cacheKey();
-    if (ultimo->fondo == control.BackColor && ultimo->texto == control.ForeColor && ultimo->paleta == actual) return;
-    *ultimo = {control.BackColor, control.ForeColor, actual};
-    aplicarColores(*w, ultimo->fondo, ultimo->texto);
+    const QString reparo = campo != nullptr ? aQt(campo->reparo()) : QString();
+    const QString aviso = !reparo.isEmpty()             ? reparo
+                          : !vacio(control.ToolTipText) ? aQt(control.ToolTipText.valor())
+                                                        : consejo;
+    if (w->toolTip() != aviso) w->setToolTip(aviso);
+    if (campo != nullptr && w->accessibleDescription() != reparo) w->setAccessibleDescription(reparo);
+    const Pintado ahora{control.BackColor, control.ForeColor, w->parentWidget()->palette().cacheKey(),
+                        !reparo.isEmpty()};
+    if (*ultimo == ahora) return;
+    *ultimo = ahora;
+    aplicarColores(*w, ahora.fondo, ahora.texto, ahora.marcado);
   };
 }
 
@@ -128,23 +148,28 @@ Enlace::Refresco Enlace::unirCampo(TextBox& campo) {
   if (linea == nullptr) return {};
   NumeroTecleado* numero = campo.numerico ? new NumeroTecleado(linea) : nullptr;
   if (numero != nullptr) linea->setValidator(numero);
+  if (const QString nombre = nombreDe(campo.magnitud); !nombre.isEmpty()) linea->setAccessibleName(nombre);
   const auto seleccion = [this, &campo, linea] {
     if (ventana_ != nullptr) leerSeleccion(campo, *linea);
   };
   connect(linea, &QLineEdit::selectionChanged, this, seleccion);
   connect(linea, &QLineEdit::cursorPositionChanged, this, seleccion);
-  connect(linea, &QLineEdit::textEdited, this, [this, &campo, linea](const QString& texto) {
+  // not only what is typed: screen readers and input methods put whole texts in
+  connect(linea, &QLineEdit::textChanged, this, [this, &campo, linea](const QString& texto) {
+    if (escribiendo_ == linea) return;
     atender([&] {
       leerSeleccion(campo, *linea);
       campo.Text = deQt(texto);
     });
   });
-  return [&campo, linea, numero, comun = comunes(campo, *linea)] {
+  return [this, &campo, linea, numero, comun = comunes(campo, *linea)] {
     comun();
-    if (linea->text() != aQt(campo.Text.valor()))
+    if (linea->text() != aQt(campo.Text.valor())) {
+      const QScopedValueRollback<const QLineEdit*> delPrograma(escribiendo_, linea);
       escribirTexto(campo, *linea, numero);
-    else
+    } else {
       escribirSeleccion(campo, *linea);
+    }
   };
 }
 
@@ -162,9 +187,12 @@ Enlace::Refresco Enlace::unirRotulo(Label& rotulo) {
   auto* etiqueta = widgetDe<QLabel>(rotulo);
   if (etiqueta == nullptr) return {};
   etiqueta->setTextFormat(Qt::PlainText);
+  if (const Magnitud& m = rotulo.magnitud; !m.nombre.empty())
+    presentarResultado(*etiqueta, aQt(std::string(m.nombre)), aQt(std::string(m.unidad)));
   return [&rotulo, etiqueta, comun = comunes(rotulo, *etiqueta)] {
     comun();
     rotular(*etiqueta, aQt(rotulo.Caption.valor()));
+    contarResultado(*etiqueta);
   };
 }
 

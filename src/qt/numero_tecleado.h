@@ -5,7 +5,9 @@
 namespace calvento {
 
 /// Turns the decimal comma of a number field into a point while the user types or pastes, before the field tells of the
-/// change. It rejects nothing. Texts that the program writes pass as they are: see Pausa.
+/// change. It rejects nothing. Texts that the program writes pass as they are: see Pausa. A comma that has become a
+/// point is remembered, so that "1,250.50" gives 1250.50 by the keyboard as it does from the clipboard: the second sign
+/// tells that the first one parts thousands.
 class NumeroTecleado : public QValidator {
  public:
   using QValidator::QValidator;
@@ -29,6 +31,8 @@ class NumeroTecleado : public QValidator {
 
  private:
   int pausas_ = 0;
+  mutable QString mostrado_;  ///< the field's text after the last change of the user's
+  mutable QString tecleado_;  ///< the same with the commas that stood in the place of points
 };
 
 }  // namespace calvento

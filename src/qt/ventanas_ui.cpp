@@ -5,6 +5,7 @@
 
 #include <QMainWindow>
 
+#include "qt/boceto.h"
 #include "ui_Form1.h"
 #include "ui_Form10.h"
 #include "ui_Form11.h"
@@ -39,6 +40,8 @@ namespace {
 template <class Diseno>
 void construir(QMainWindow& vista) {
   Diseno().setupUi(&vista);
+  for (QWidget* widget : vista.findChildren<QWidget*>())
+    if (auto* boceto = dynamic_cast<Boceto*>(widget)) boceto->crecer();
 }
 
 constexpr std::array ventanas_ui = {

@@ -100,6 +100,11 @@ void VistaRejilla::acomodar() {
   horizontalHeader()->setVisible(filasEnCabecera(control->tabla) > 0);
   unirTitulos();
   ajustarAnchos();
+  if (!control->Click) return;
+  // a table to choose from shows all of its rows
+  const QHeaderView& titulos = *horizontalHeader();
+  setMinimumHeight((titulos.isHidden() ? 0 : titulos.sizeHint().height()) + verticalHeader()->length() +
+                   2 * frameWidth());
 }
 
 void VistaRejilla::unirTitulos() {

@@ -8,7 +8,7 @@
 namespace calvento {
 
 Form10::Form10(DesignState& estado, Form2& parametros, Dialogos& dialogos, Navegador& navegador)
-    : VentanaTanques(formatoRapida, estado, parametros, dialogos, navegador, "En canal rápida:", true) {
+    : VentanaTanques(formatoRapida, estado, parametros, dialogos, navegador, "Bordo libre: En canal rápida", true) {
   unirCampos();
   unirMenus();
   ACTIVARTRAMOS(1);
@@ -17,6 +17,7 @@ Form10::Form10(DesignState& estado, Form2& parametros, Dialogos& dialogos, Naveg
 
 void Form10::unirCampos() {
   seleccionarAlEnfocar(*this);
+  Text2.magnitud.nombre = "Elev. inicio de trayectoria";
   const auto pistaRapida = [this] { mostrarAncho("Ancho de canal de rápida calculado (b): ", anchoRapida); };
   Text5.Change = [this, pistaRapida] {
     pistaRapida();

@@ -13,19 +13,24 @@ class Form10 : public VentanaTanques, private PantallaRapida {
   Form10(DesignState& estado, Form2& parametros, Dialogos& dialogos, Navegador& navegador);
 
   // Chute
-  TextBox Text10{*this, "Text10"};       ///< bRapida
-  TextBox Text11{*this, "Text11"};       ///< zRapida
-  TextBox Text12{*this, "Text12"};       ///< nRapida
-  TextBox Text13{*this, "Text13"};       ///< sTramo1
-  TextBox Text15{*this, "Text15"};       ///< sTramo2
-  TextBox Text14{*this, "Text14"};       ///< sTramo3
-  TextBox Text17{*this, "Text17", "1"};  ///< numTramos
+  TextBox Text10{
+      *this, "Text10", "", {"Canal de la rápida: Ancho de base(b)", "m", Dominio::noNegativos, &Text11}};  ///< bRapida
+  TextBox Text11{*this, "Text11", "", {"Canal de la rápida: Talud(Z)", "", Dominio::noNegativos}};         ///< zRapida
+  TextBox Text12{*this, "Text12", "", {"Canal de la rápida: Rugosidad(n)", "", Dominio::positivos}};       ///< nRapida
+  TextBox Text13{
+      *this, "Text13", "", {"Canal de la rápida: Pendiente tramo 1(S1)", "m/m", Dominio::positivos}};  ///< sTramo1
+  TextBox Text15{
+      *this, "Text15", "", {"Canal de la rápida: Pendiente tramo 2(S2)", "m/m", Dominio::positivos}};  ///< sTramo2
+  TextBox Text14{
+      *this, "Text14", "", {"Canal de la rápida: Pendiente tramo 3(S3)", "m/m", Dominio::positivos}};  ///< sTramo3
+  TextBox Text17{*this, "Text17", "1", {"Número de tramos", "", Dominio::positivos}};                  ///< numTramos
   UpDown UpDown1{*this, "UpDown1", 1, 3, 1};
   // Elevations and submergence
-  TextBox Text1{*this, "Text1"};          ///< cotaInicio
-  TextBox Text3{*this, "Text3"};          ///< cotaTramo2
-  TextBox Text27{*this, "Text27"};        ///< cotaTramo3
-  TextBox Text26{*this, "Text26", "10"};  ///< ahogamiento, percent
+  TextBox Text1{*this, "Text1", "", {"Elev. inicio de la rápida", "m"}};  ///< cotaInicio
+  TextBox Text3{*this, "Text3", "", {"Elev. inicio 2do tramo", "m"}};     ///< cotaTramo2
+  TextBox Text27{*this, "Text27", "", {"Elev. inicio 3er tramo", "m"}};   ///< cotaTramo3
+  TextBox Text26{
+      *this, "Text26", "10", {"k, ahogamiento del resalto", "%", Dominio::noNegativos}};  ///< ahogamiento, percent
 
   // Labels of the fields that go with the number of reaches: of the second and third elevation with their units and
   // sketch symbols, and of the second and third slope with their units
@@ -40,7 +45,8 @@ class Form10 : public VentanaTanques, private PantallaRapida {
   Label Label79{*this, "Label79", "Pendiente tramo 3(S3):"};
   Label Label78{*this, "Label78", "m/m"};
 
-  Label Label35{*this, "Label35"};            ///< drowning ratio
+  Label Label35{
+      *this, "Label35", "", {"Ahogamiento que iguala los niveles de agua a la salida", ""}};  ///< drowning ratio
   CommandButton Command1{*this, "Command1"};  ///< suggests the chute width
 
   Menu mntperfil{*this, "mntperfil"};

@@ -43,6 +43,7 @@ TEST(PuntoDecimal, TakesTheCommaOfASpanishKeyboard) {
       {"-1.234.567,8", "-1234567.8"},
       {"1,234", "1.234"},
       {"12,34.5", "12.34.5"},
+      {"1.234,", "1234."},
       {"abc", "abc"},
   };
   for (const auto& c : casos) EXPECT_EQ(conPuntoDecimal(c.tecleado), c.leido) << c.tecleado;

@@ -16,6 +16,18 @@ class Archivos : public testing::Test {
   const std::string canal = carpeta.escribir("canal.cvr", ProyectoRapida().contenido());
 };
 
+TEST_F(Archivos, AFieldThatIsNotWhollyANumberIsNoted) {
+  const std::string dudoso =
+      carpeta.escribir("dudoso.cvr", ProyectoRapida().poner("Text5", "1,5").poner("Form2.Text6", "0.30 m").contenido());
+  const std::vector<std::string> notas = {
+      "Rápida, Caudal (Q): «1,5». Se lee 1",
+      "Bordo Libre - Transición- Tanque Amortiguador, Bordo libre: En canal rápida: «0.30 m». Se lee 0.3"};
+  EXPECT_EQ(correr({"--json", dudoso}).objetos()[0]["notas"], notas);
+  const std::string resumen = correr({dudoso}).salida;
+  EXPECT_NE(resumen.find("\nNOTAS\n  " + notas[0] + "\n  " + notas[1] + "\n"), std::string::npos) << resumen;
+  EXPECT_EQ(correr({canal}).salida.find("NOTAS"), std::string::npos);
+}
+
 TEST_F(Archivos, AProjectThatWasNotReadIsNotCalculatedByAnOption) {
   // the lines up to the basin stand, and the fields of the option would make it calculate
   const std::string entero = ProyectoRapida().contenido();

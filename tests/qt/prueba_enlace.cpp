@@ -1,6 +1,7 @@
 // Controls and widgets joined: properties one way, the user's doings the other.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -184,6 +185,67 @@ TEST_F(EnlaceBanco, LaComaPegadaSeVuelvePunto) {
   EXPECT_EQ(texto2->text(), "2.17");
 }
 
+TEST_F(EnlaceBanco, ElTextoLlegaUnaVezVengaDeDondeVenga) {
+  enlazar();
+  texto2->setFocus();
+  std::vector<std::string> cambios;
+  v.Text2.Change = [&] { cambios.push_back(v.Text2.Text.valor()); };
+  auto* accesible = QAccessible::queryAccessibleInterface(texto2);
+  accesible->setText(QAccessible::Value, "2,5");
+  accesible->editableTextInterface()->insertText(3, "1");
+  QInputMethodEvent compuesto;
+  compuesto.setCommitString("7");
+  texto2->setCursorPosition(0);
+  QCoreApplication::sendEvent(texto2, &compuesto);
+  QTest::keyClick(texto2, Qt::Key_Z, Qt::ControlModifier);
+  v.Text2.Text = std::string("4,5");  // the program's: as it is, and no change of the user's beside its own
+  EXPECT_EQ(cambios, (std::vector<std::string>{"2.5", "2.51", "72.51", "2.51", "4,5"}));
+  EXPECT_EQ(texto2->text(), "4,5");
+}
+
+TEST_F(EnlaceBanco, LoQueNoEsTodoNumeroSeMarcaVengaComoVenga) {
+  v.Text2.ToolTipText = "0 < Z < 2";
+  enlazar();
+  const auto pegar = [&](const char* t) {
+    QGuiApplication::clipboard()->setText(t);
+    texto2->selectAll();
+    texto2->paste();
+  };
+  const auto teclear = [&](const char* t) {
+    texto2->clear();
+    QTest::keyClicks(texto2, t);
+  };
+  const auto escribir = [&](const char* t) { v.Text2.Text = std::string(t); };
+  const QColor limpio = texto2->palette().color(QPalette::Base);
+  const struct {
+    const char* texto;
+    const char* tecleado;
+    const char* aviso;  ///< of what is typed and pasted
+    const char* avisoEscrito;
+  } casos[] = {
+      {"2.5", "2.5", "", ""},
+      {"2,5", "2.5", "", "Se lee 2"},
+      {"1,250.50", "1250.50", "", "Se lee 1"},
+      {"1.250,50", "1250.50", "", "Se lee 1.25"},
+      {"1,250,300.5", "1250300.5", "", "Se lee 1"},
+      {"1.250.50", "1.250.50", "Se lee 1.25", "Se lee 1.25"},
+      {"2.5 m3/s", "2.5 m3/s", "Se lee 2.5", "Se lee 2.5"},
+      {"abc", "abc", "Se lee 0", "Se lee 0"},
+      {"1e999", "1e999", "Número demasiado grande", "Número demasiado grande"},
+      {"", "", "", ""},
+  };
+  for (const auto& c : casos)
+    for (const auto& [poner, leido, aviso] :
+         std::vector<std::tuple<std::function<void(const char*)>, const char*, std::string>>{
+             {teclear, c.tecleado, c.aviso}, {pegar, c.tecleado, c.aviso}, {escribir, c.texto, c.avisoEscrito}}) {
+      poner(c.texto);
+      EXPECT_EQ(deQt(texto2->text()), leido) << c.texto;
+      EXPECT_EQ(deQt(texto2->toolTip()), aviso.empty() ? "0 < Z < 2" : aviso) << c.texto;
+      EXPECT_EQ(deQt(texto2->accessibleDescription()), aviso) << c.texto;
+      EXPECT_EQ(texto2->palette().color(QPalette::Base) == limpio, aviso.empty()) << c.texto;
+    }
+}
+
 TEST_F(EnlaceBanco, ElFocoEligeTodo) {
   enlazar();
   v.Text2.Text = std::string("345");
@@ -255,6 +317,11 @@ TEST_F(EnlaceBanco, TodoTextoSeLeeEnUnEscritorioClaroYEnUnoOscuro) {
     legible("default colours");
     const QColor base = texto2->palette().color(QPalette::Base);
     EXPECT_EQ(base, p.color(QPalette::Base));
+    v.Text2.Text = std::string("1.2.3");
+    legible("marked");
+    EXPECT_GE(std::abs(texto2->palette().color(QPalette::Base).hslSaturation() - base.hslSaturation()), 50);
+    v.Text2.Text = std::string();
+    EXPECT_EQ(texto2->palette().color(QPalette::Base), base);
     v.Text2.BackColor = color::caraBoton;
     EXPECT_NE(texto2->palette().color(QPalette::Base), base) << "a closed field does not look closed";
     for (const Color fondo : {color::ventana, color::caraBoton, color::celda, color::celdaElegida, color::negro})
