@@ -6,8 +6,8 @@
 namespace calvento {
 
 /// Who is to be told when the object it is a member of has changed. It belongs to that object alone: a copy of the
-/// object has no listener, and an object that takes another's content keeps its own and tells it, by the value-initialised
-/// arguments, that all may be different. As the last member it does so when the content is there.
+/// object has no listener, and an object that takes another's content keeps its own and tells it, by the
+/// value-initialised arguments, that all may be different. As the last member it does so when the content is there.
 template <class... Que>
 class Oyente {
  public:

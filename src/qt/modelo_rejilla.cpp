@@ -79,8 +79,7 @@ void ModeloRejilla::medir() {
 void ModeloRejilla::anotar(CambioRejilla que) {
   estructura_ = estructura_ || que == CambioRejilla::estructura;
   celdas_ = celdas_ || que == CambioRejilla::celdas;
-  if (!std::exchange(aviso_, true))
-    QCoreApplication::postEvent(this, new QEvent(tipoAviso()), Qt::HighEventPriority);
+  if (!std::exchange(aviso_, true)) QCoreApplication::postEvent(this, new QEvent(tipoAviso()), Qt::HighEventPriority);
 }
 
 void ModeloRejilla::ponerseAlDia() {

@@ -214,7 +214,7 @@ void VistaRejilla::focusInEvent(QFocusEvent* evento) {
 
 void VistaRejilla::changeEvent(QEvent* evento) {
   QTableView::changeEvent(evento);
-  if (evento->type() == QEvent::FontChange || evento->type() == QEvent::StyleChange) ajustarAnchos();
+  if (evento->type() == QEvent::FontChange || evento->type() == QEvent::StyleChange) acomodar();
 }
 
 // A picture of the window, on paper or for the clipboard, shows a change that was made in the same event.

@@ -57,7 +57,7 @@ TEST_F(Calculadoras, CaptionsOfEachModeAndTheFieldsBesideThem) {
 TEST_F(Calculadoras, SectionPicture) {
   canal.Option1.Value = true;
   int avisos = 0;
-  canal.P1.alCambiar = [&] { ++avisos; };
+  canal.P1.lienzo.alCambiar([&] { ++avisos; });
   calcularCanal("Text1=2.5 Text2=1 Text3=4");
   EXPECT_GT(avisos, 0);
   // H = 1.2 · 2.5 = 3: banks at 3 m, berms of 1.5 m, margins of 0.5 m

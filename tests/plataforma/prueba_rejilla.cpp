@@ -43,11 +43,26 @@ TEST(Avisos, UnLienzoDiceCadaTrazo) {
   Lienzo l(10, 10);
   int veces = 0;
   l.alCambiar([&] { ++veces; });
-  const std::function<void()> acciones[] = {[&] { l.Line({0, 0}, {1, 1}); }, [&] { l.Polyline({{0, 0}, {1, 1}}); },
-                                            [&] { l.Polygon({{0, 0}, {1, 1}}); }, [&] { l.Circle({0, 0}, 1); },
-                                            [&] { l.Print("a"); }, [&] { l.LineCaja({0, 0}, {1, 1}, color::negro); },
-                                            [&] { l.Scale(0, 1, 1, 0); }, [&] { l.redimensionar(5, 5); },
-                                            [&] { l.redimensionarSinCrecer(6, 6); }, [&] { l.Cls(); },
+  const std::function<void()> acciones[] = {[&] {
+                                              l.Line({0, 0}, {1, 1});
+                                            },
+                                            [&] {
+                                              l.Polyline({{0, 0}, {1, 1}});
+                                            },
+                                            [&] {
+                                              l.Polygon({{0, 0}, {1, 1}});
+                                            },
+                                            [&] {
+                                              l.Circle({0, 0}, 1);
+                                            },
+                                            [&] { l.Print("a"); },
+                                            [&] {
+                                              l.LineCaja({0, 0}, {1, 1}, color::negro);
+                                            },
+                                            [&] { l.Scale(0, 1, 1, 0); },
+                                            [&] { l.redimensionar(5, 5); },
+                                            [&] { l.redimensionarSinCrecer(6, 6); },
+                                            [&] { l.Cls(); },
                                             [&] { l = Lienzo(3, 3); }};
   int esperadas = 0;
   for (const auto& accion : acciones) {

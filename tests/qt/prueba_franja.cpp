@@ -3,7 +3,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableWidget>
+#include <QTableView>
 
 #include "escritorio.h"
 #include "plataforma/lienzo.h"
@@ -33,7 +33,7 @@ class LaFranja : public EnElEscritorio {
     QTest::keyClick(campo(ventana, nombre), Qt::Key_Return);
   }
   QString celda(const char* ventana, int fila, int columna) {
-    return vista(ventana)->findChild<QTableWidget*>()->item(fila, columna)->text();
+    return vista(ventana)->findChild<QTableView*>()->model()->index(fila, columna).data().toString();
   }
 };
 

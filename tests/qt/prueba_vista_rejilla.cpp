@@ -59,15 +59,11 @@ class TablaEnPantalla : public testing::Test {
   }
   QModelIndex celda(int fila, int columna) { return widget.model()->index(fila, columna); }
   std::string texto(int fila, int columna) { return deQt(celda(fila, columna).data().toString()); }
-  std::string titulo(int columna) {
-    return deQt(widget.model()->headerData(columna, Qt::Horizontal).toString());
-  }
+  std::string titulo(int columna) { return deQt(widget.model()->headerData(columna, Qt::Horizontal).toString()); }
   void pulsarCelda(int fila, int columna) {
     QTest::mouseClick(widget.viewport(), Qt::LeftButton, {}, widget.visualRect(celda(fila, columna)).center());
   }
-  void pulsarCabecera() {
-    QTest::mouseClick(widget.horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(20, 8));
-  }
+  void pulsarCabecera() { QTest::mouseClick(widget.horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(20, 8)); }
 
   std::unique_ptr<ConTabla> v = std::make_unique<ConTabla>();
   VistaRejilla widget;
@@ -87,13 +83,20 @@ TEST_F(TablaEnPantalla, LaCabeceraEsLaFilaCeroYNoDejaMarca) {
     int actual;
   } casos[] = {
       {"the header", [&] { pulsarCabecera(), espacio(); }, {0}, -1},
-      {"a box that goes", [&] { widget.clearFocus(), widget.setFocus(Qt::ActiveWindowFocusReason), espacio(); }, {}, -1},
+      {"a box that goes",
+       [&] { widget.clearFocus(), widget.setFocus(Qt::ActiveWindowFocusReason), espacio(); },
+       {},
+       -1},
       {"a row", [&] { pulsarCelda(1, 2), espacio(); }, {2, 2}, 1},
       {"the header after it", [&] { pulsarCabecera(), espacio(); }, {0}, -1},
       {"an arrow", [&] { QTest::keyClick(&widget, Qt::Key_Down), espacio(); }, {1}, 0},
       {"the next", [&] { QTest::keyClick(&widget, Qt::Key_Down), espacio(); }, {2}, 1},
-      {"below the rows", [&] { pulsarCabecera(), QTest::mouseClick(widget.viewport(), Qt::LeftButton, {}, {9, 200}); },
-       {0}, -1},
+      {"below the rows",
+       [&] {
+         pulsarCabecera(), QTest::mouseClick(widget.viewport(), Qt::LeftButton, {}, {9, 200});
+       },
+       {0},
+       -1},
       {"the tab key", [&] { widget.clearFocus(), widget.setFocus(Qt::TabFocusReason), espacio(); }, {1}, 0},
   };
   for (const auto& c : casos) {
