@@ -4,12 +4,18 @@
 
 #include <QFrame>
 
+class QLabel;
+
 namespace calvento {
 
-/// The strip above a result window whose figures are no longer those of the last calculation.
+/// The strip above a result window whose figures are not those of the last calculation of its structure.
 class Franja : public QFrame {
  public:
-  Franja(QWidget& marco, const QString& texto, std::function<void()> actualizar);
+  Franja(QWidget& marco, std::function<void()> actualizar);
+  void decir(const QString& texto);
+
+ private:
+  QLabel* rotulo_;
 };
 
 }  // namespace calvento

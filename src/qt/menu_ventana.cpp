@@ -8,6 +8,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QStyle>
 
 namespace calvento {
 
@@ -22,6 +23,20 @@ void mosaico(QMainWindow& principal, QMdiArea& area) {
   principal.setMaximumSize(antes);
 }
 
+/// Steps down from the corner so that every title is seen, each window in the size it opened with: left alone, the area
+/// would shrink a drawing to the least it can bear.
+void cascada(QMdiArea& area) {
+  QPoint lugar;
+  for (QMdiSubWindow* hija : area.subWindowList(QMdiArea::ActivationHistoryOrder)) {
+    if (hija->isHidden() || hija->isMinimized()) continue;
+    if (hija->isMaximized()) hija->showNormal();
+    hija->setGeometry(QRect(lugar, hija->property(tamanoAlAbrir).toSize().expandedTo(hija->minimumSizeHint())));
+    const int paso = hija->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, hija);
+    lugar += QPoint(paso, paso);
+    if (lugar.y() > area.viewport()->height() / 2) lugar.setY(0);
+  }
+}
+
 QString rotulo(const QMdiSubWindow& hija, int numero) {
   QString titulo = hija.windowTitle();
   titulo.replace(u'&', QLatin1String("&&"));
@@ -32,7 +47,7 @@ void llenar(QMenu& menu, QMainWindow& principal, QMdiArea& area, const std::func
   menu.clear();
   QList<QMdiSubWindow*> abiertas = area.subWindowList(QMdiArea::CreationOrder);
   abiertas.removeIf([](const QMdiSubWindow* hija) { return hija->isHidden(); });
-  for (QAction* orden : {menu.addAction(QStringLiteral("&Cascada"), &area, &QMdiArea::cascadeSubWindows),
+  for (QAction* orden : {menu.addAction(QStringLiteral("&Cascada"), &area, [&] { cascada(area); }),
                          menu.addAction(QStringLiteral("&Mosaico"), &area, [&] { mosaico(principal, area); })})
     orden->setEnabled(!abiertas.empty());
   if (!abiertas.empty()) menu.addSeparator();

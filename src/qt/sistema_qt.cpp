@@ -124,6 +124,7 @@ QWidget* SistemaQt::colocarHija(QMainWindow& vista) {
   const QMargins orla = marco->contentsMargins();
   const QSize deseado = diseno.grownBy(orla).boundedTo(area_->viewport()->size());
   marco->resize(deseado.expandedTo(vista.minimumSizeHint().expandedTo(vista.minimumSize()).grownBy(orla)));
+  marco->setProperty(tamanoAlAbrir, marco->size());
   marco->move(centrado(area_->viewport()->rect(), marco->size()));
   return marco;
 }

@@ -14,6 +14,7 @@
 #include "plataforma/dialogos.h"
 #include "plataforma/navegador.h"
 #include "qt/enlace.h"
+#include "qt/franja.h"
 #include "qt/ventanas_ui.h"
 
 class QMainWindow;
@@ -59,9 +60,9 @@ class SistemaQt : public QObject, public SistemaVentanas {
     QPointer<QMainWindow> vista;
     QPointer<QWidget> marco;
     QPointer<Enlace> enlace;
-    Calculo mostrado = {};               ///< of a result window: whose figures it shows
-    QPointer<QWidget> franja = nullptr;  ///< stands above it when they are not the last ones
-    QRect sinFranja = {};                ///< the frame's place before the strip made it grow, and with it
+    Calculo mostrado = {};              ///< of a result window: whose figures it shows
+    QPointer<Franja> franja = nullptr;  ///< stands above it when they are not the last ones
+    QRect sinFranja = {};               ///< the frame's place before the strip made it grow, and with it
     QRect conFranja = {};
   };
   Abierta* buscar(const Ventana& ventana);
@@ -75,6 +76,7 @@ class SistemaQt : public QObject, public SistemaVentanas {
   QMdiSubWindow* anterior(const QWidget* marco) const;
   void quitar(QWidget& marco);
   void avisarCifras(Abierta& abierta);
+  void ponerFranja(Abierta& abierta, QMdiSubWindow& marco, const QString& texto);
   void actualizar(Ventana& ventana);
   void alCerrar(QObject* marco);
   void alPintarPrincipal();

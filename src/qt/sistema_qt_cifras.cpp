@@ -8,7 +8,6 @@
 #include <QMdiSubWindow>
 
 #include "qt/cadena.h"
-#include "qt/franja.h"
 #include "qt/sistema_qt.h"
 
 namespace calvento {
@@ -38,15 +37,29 @@ void SistemaQt::calculado(const Calculo& ultimo) {
   for (auto& [nombre, abierta] : abiertas_) avisarCifras(abierta);
 }
 
+/// Says where the figures of a result window are not those of the last calculation, or are those of a structure that
+/// has no such window.
 void SistemaQt::avisarCifras(Abierta& abierta) {
-  const VentanaUi* diseno = ventanaUi(abierta.ventana->nombre());
-  if (diseno == nullptr || !diseno->deUnCalculo || abierta.mostrado.numero == ultimo_.numero) return;
+  const std::string& ventana = abierta.ventana->nombre();
+  const VentanaUi* diseno = ventanaUi(ventana);
   auto* marco = qobject_cast<QMdiSubWindow*>(abierta.marco);
-  if (marco == nullptr || abierta.franja) return;
+  if (diseno == nullptr || !diseno->deUnCalculo || marco == nullptr || ultimo_.numero == 0) return;
   const std::string& nombre = abierta.mostrado.nombre;
-  auto* franja = new Franja(*marco, aQt((nombre.empty() ? "C" : nombre + ", c") + "alculado antes del último OK"),
-                            [this, ventana = abierta.ventana] { actualizar(*ventana); });
-  auto* columna = qobject_cast<QBoxLayout*>(marco->layout());
+  QString texto;
+  if (abierta.mostrado.numero != ultimo_.numero)
+    texto = aQt((nombre.empty() ? "C" : nombre + ", c") + "alculado antes del último OK");
+  else if (navegador_ != nullptr && !navegador_->comoMostrar(ventana))
+    texto = aQt("Con los valores del último OK: " + nombre);
+  else
+    return;
+  if (!abierta.franja) ponerFranja(abierta, *marco, texto);
+  abierta.franja->decir(texto);
+}
+
+void SistemaQt::ponerFranja(Abierta& abierta, QMdiSubWindow& marco, const QString& texto) {
+  auto* franja = new Franja(marco, [this, ventana = abierta.ventana] { actualizar(*ventana); });
+  franja->decir(texto);
+  auto* columna = qobject_cast<QBoxLayout*>(marco.layout());
   columna->setSpacing(0);
   // the frame grows by the strip in one step: a picture that changed its size would be drawn anew, from a record in
   // which another calculation is writing
@@ -55,11 +68,11 @@ void SistemaQt::avisarCifras(Abierta& abierta) {
   abierta.franja = franja;
   franja->show();
   columna->setEnabled(true);
-  if (marco->isMaximized() || marco->isMinimized()) return columna->invalidate();
-  abierta.sinFranja = marco->geometry();
-  marco->resize(marco->size() + QSize(0, franja->heightForWidth(marco->contentsRect().width())));
-  marco->move(marco->x(), std::clamp(area_->viewport()->height() - marco->height(), 0, std::max(0, marco->y())));
-  abierta.conFranja = marco->geometry();
+  if (marco.isMaximized() || marco.isMinimized()) return columna->invalidate();
+  abierta.sinFranja = marco.geometry();
+  marco.resize(marco.size() + QSize(0, franja->heightForWidth(marco.contentsRect().width())));
+  marco.move(marco.x(), std::clamp(area_->viewport()->height() - marco.height(), 0, std::max(0, marco.y())));
+  abierta.conFranja = marco.geometry();
 }
 
 /// Unloads the window and opens it from the last calculation, in its place and with what the user has put in.

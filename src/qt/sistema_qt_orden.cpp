@@ -45,7 +45,9 @@ void SistemaQt::presentar(Ventana& ventana) {
   QWidget* marco = abierta->marco;
   abierta->vista->show();
   traerDespues(marco);
-  if (nueva) enfocarPrimero(*abierta->vista);
+  if (!nueva) return;
+  enfocarPrimero(*abierta->vista);
+  avisarCifras(*abierta);
 }
 
 /// Forward at once, and again when the event has ended: a menu that closes gives the focus back to its own window,

@@ -103,10 +103,18 @@ TEST_F(LaFranja, ConservaLoElegidoYNoMezclaEstructuras) {
   actualizar("Form19");
   EXPECT_EQ(programa.sistema.marco("Form19"), marco);
 
+  elegir("Form10", "mntperfil");
+  EXPECT_EQ(dice("Form11"), "Con los valores del último OK: Caída Vertical 21-vertical-sin-obstaculos.cvv");
+  elegir("Form16", "mngrafico");
+  EXPECT_EQ(franja("Form17"), nullptr);
+
   programa.aplicacion.mostrar("Form10");
   QTest::keyClick(campo("Form10", "Text5"), Qt::Key_Return);
   actualizar("Form19");
   EXPECT_EQ(vista("Form19")->findChild<QComboBox*>()->currentIndex(), 1);
+  EXPECT_EQ(dice("Form11"), "Caída Vertical 21-vertical-sin-obstaculos.cvv, calculado antes del último OK");
+  actualizar("Form11");
+  EXPECT_EQ(franja("Form11"), nullptr);
   actualizar("Form12");
   EXPECT_EQ(campo("Form12", "Text10")->text(), "2.5");
   EXPECT_EQ(franja("Form12"), nullptr);
