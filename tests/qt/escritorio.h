@@ -31,6 +31,11 @@ class EnElEscritorio : public testing::Test {
     programa.sistema.marco(ventana)->close();
     QTest::qWait(0);
   }
+  void quitarAcercaDe() { programa.aplicacion.descargar(*programa.aplicacion.cargada("frmAbout")); }
+  void abrirEjemplo(const std::string& archivo) {
+    ASSERT_TRUE(programa.aplicacion.abrirProyecto(RAIZ_PROYECTO "/ejemplos/" + archivo));
+    QTest::qWait(5);
+  }
   /// The boxes of the script stand outside: they outlive the program.
   DialogosGuion dialogos;
   Programa programa{dialogos};

@@ -16,10 +16,7 @@ class LaFranja : public EnElEscritorio {
  protected:
   void SetUp() override {
     EnElEscritorio::SetUp();
-    programa.aplicacion.descargar(*programa.aplicacion.cargada("frmAbout"));
-  }
-  void abrirEjemplo(const char* archivo) {
-    ASSERT_TRUE(programa.aplicacion.abrirProyecto(RAIZ_PROYECTO "/ejemplos/" + std::string(archivo)));
+    quitarAcercaDe();
   }
   QWidget* franja(const char* ventana) { return programa.sistema.marco(ventana)->findChild<QWidget*>("franja"); }
   std::string dice(const char* ventana) { return deQt(franja(ventana)->findChild<QLabel*>()->text()); }

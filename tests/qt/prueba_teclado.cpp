@@ -19,7 +19,7 @@ class Teclado : public EnElEscritorio {
  protected:
   void SetUp() override {
     EnElEscritorio::SetUp();
-    programa.aplicacion.descargar(*programa.aplicacion.cargada("frmAbout"));
+    quitarAcercaDe();
     ASSERT_TRUE(QTest::qWaitForWindowActive(vista("frmMain")));
     area = vista("frmMain")->findChild<QMdiArea*>();
   }
@@ -32,10 +32,6 @@ class Teclado : public EnElEscritorio {
   }
   void menu(const char* ventana, const char* accion) {
     elegir(ventana, accion);
-    QTest::qWait(5);
-  }
-  void abrirEjemplo(const char* archivo) {
-    ASSERT_TRUE(programa.aplicacion.abrirProyecto(RAIZ_PROYECTO "/ejemplos/" + std::string(archivo)));
     QTest::qWait(5);
   }
   /// The children in sight from the front to the back.
@@ -89,18 +85,6 @@ TEST_F(Teclado, LoTecleadoVuelveALaVentanaDeDondeSeVino) {
     EXPECT_EQ(campo(c.diseno, "Text8")->text(), "77");
     cerrarConLaX(c.diseno);
   }
-}
-
-TEST_F(Teclado, SinOtraVentanaALaVistaLoTecleadoSePierde) {
-  programa.aplicacion.mostrar("Form14");
-  programa.sistema.marco("Form14")->showMinimized();
-  programa.aplicacion.mostrar("Form2");
-  QTest::qWait(5);
-  QLineEdit* parametro = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-  ASSERT_NE(parametro, nullptr);
-  tecla(Qt::Key_Return);
-  teclear("9");
-  EXPECT_EQ(parametro->text(), "0.20");
 }
 
 TEST_F(Teclado, UnaVentanaSinCamposNoMueveLasDemas) {
