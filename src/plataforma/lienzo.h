@@ -153,6 +153,16 @@ class Lienzo : public EstadoPluma {
   void fijarEstadoPluma(const EstadoPluma& estado) { static_cast<EstadoPluma&>(*this) = estado; }
 
   const std::vector<Primitiva>& primitivas() const { return primitivas_; }
+  /// Hands every text to `cambiar`, which may alter it; a text for which that is false is taken out.
+  template <class Cambio>
+  void cambiarTextos(Cambio&& cambiar) {
+    std::vector<Primitiva> quedan;
+    quedan.reserve(primitivas_.size());
+    for (Primitiva& p : primitivas_)
+      if (auto* texto = std::get_if<PrimTexto>(&p); texto == nullptr || cambiar(*texto)) quedan.push_back(std::move(p));
+    primitivas_ = std::move(quedan);
+    ++version_;
+  }
   /// Grows by one with each change of the picture, so that a painter can tell whether to repaint.
   std::uint64_t version() const { return version_; }
   /// Calls that function with each change from now on; empty: none.

@@ -1,0 +1,78 @@
+#include "memoria/documento.h"
+
+#include <filesystem>
+
+#include "memoria/redaccion.h"
+
+namespace calvento {
+
+namespace redaccion {
+
+void Redaccion::tabla(std::string titulo, const Rejilla& r) {
+  Tabla t{std::move(titulo), {}, {}, {}, {}};
+  for (int c = 0; c < r.columnas(); ++c) t.columnas.push_back(r.alineacion(c));
+  for (int f = 0; f < r.filas(); ++f) {
+    std::vector<std::string> fila;
+    bool vacia = true;
+    for (int c = 0; c < r.columnas(); ++c) {
+      fila.push_back(r.texto(f, c));
+      vacia = vacia && fila.back().empty();
+    }
+    if (vacia) continue;
+    (f < r.filasTitulo ? t.titulos : t.filas).push_back(std::move(fila));
+  }
+  bloque(std::move(t));
+}
+
+void Redaccion::tabla(std::string titulo, std::vector<std::string> titulos, std::vector<std::vector<std::string>> filas,
+                      std::vector<Alineacion> columnas) {
+  bloque(Tabla{std::move(titulo), {std::move(titulos)}, std::move(filas), std::move(columnas), {}});
+}
+
+}  // namespace redaccion
+
+std::string sinMarcas(std::string_view texto) {
+  std::string s;
+  bool marca = false;
+  for (std::size_t i = 0; i < texto.size(); ++i) {
+    if ((texto[i] == '_' || texto[i] == '^') && i + 1 < texto.size() && texto[i + 1] == '{') {
+      ++i;
+      marca = true;
+    } else if (marca && texto[i] == '}') {
+      marca = false;
+    } else {
+      s += texto[i];
+    }
+  }
+  return s;
+}
+
+Documento redactar(const Diseno& diseno, const Comprobaciones& comprobadas, const TablasInforme& tablas,
+                   const Portada& portada) {
+  Documento doc;
+  doc.titulo = "Memoria de cálculo hidráulico";
+  doc.estructura = diseno.rapida() ? "Rápida" : diseno.inclinada() ? "Caída inclinada" : "Caída vertical";
+  const std::string& ruta = diseno.e.rutaArchivo;
+  const auto barra = ruta.find_last_of("/\\");
+  doc.proyecto =
+      diseno.e.esNuevo || ruta.empty() ? "sin nombre" : ruta.substr(barra == std::string::npos ? 0 : barra + 1);
+  doc.portada = portada;
+  doc.cuenta = contar(comprobadas);
+  redaccion::Redaccion r(doc, diseno, comprobadas, tablas);
+  redaccion::datos(r);
+  redaccion::canales(r);
+  redaccion::control(r);
+  redaccion::perfil(r);
+  redaccion::trayectoria(r);
+  redaccion::resalto(r);
+  redaccion::bloques(r);
+  redaccion::revestimientos(r);
+  redaccion::verificacion(r);
+  redaccion::comprobaciones(r);
+  redaccion::planos(r);
+  redaccion::mensajes(r);
+  redaccion::referencias(r);
+  return doc;
+}
+
+}  // namespace calvento
