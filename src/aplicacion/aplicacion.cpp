@@ -63,6 +63,9 @@ const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
       {"Form12", [](Aplicacion& a) { return std::make_unique<Form12>(a.estado, a.form2(), a.dialogos_, a, a.cad_); }},
       {"Form9", [](Aplicacion& a) { return std::make_unique<Form9>(a.estado, a.form2(), a.dialogos_, a, a.cad_); }},
       {"Form18", [](Aplicacion& a) { return std::make_unique<Form18>(a.estado, a.form25(), a.dialogos_, a, a.cad_); }},
+      {"MemoriaForm10", [](Aplicacion& a) { return a.memoriaDe("Form10"); }},
+      {"MemoriaForm1", [](Aplicacion& a) { return a.memoriaDe("Form1"); }},
+      {"MemoriaForm16", [](Aplicacion& a) { return a.memoriaDe("Form16"); }},
   };
   return ventanas;
 }
@@ -79,6 +82,37 @@ Aplicacion::~Aplicacion() {
 void Aplicacion::arrancar() {
   mostrar("frmMain");
   mostrar("frmAbout");
+}
+
+std::unique_ptr<Ventana> Aplicacion::memoriaDe(std::string_view datos) {
+  const auto it = disenos_.find(datos);
+  return std::make_unique<FormMemoria>("Memoria" + std::string(datos), it == disenos_.end() ? nullptr : it->second);
+}
+
+/// The checks of the design in the status bar of its window, and in its report where that is open.
+void Aplicacion::calculoTerminado(VentanaDatos& ventana) {
+  const Ficha* ficha = fichaDe(ventana.nombre());
+  auto* barra = ventana.buscar<StatusBar>("sbStatusBar");
+  if (!sistema_.conPantalla() || ficha == nullptr || barra == nullptr) return;
+  if (!ventana.calculado()) {
+    barra->Panel2 = "";
+    return;
+  }
+  const auto diseno = std::make_shared<const DisenoComprobado>(
+      Diseno(*ficha, ventana, *cargar(ficha->parametros), estado, ventana.mensajes()));
+  disenos_[ventana.nombre()] = diseno;
+  const CuentaComprobaciones cuenta = contar(diseno->comprobaciones);
+  barra->Alarma = cuenta.cumplen < cuenta.total;
+  barra->Panel2 = textoCuenta(cuenta);
+  const std::string nombre = "Memoria" + ventana.nombre();
+  barra->Panel2Click = [this, nombre] {
+    auto* memoria = cargar<FormMemoria>(nombre);
+    if (memoria == nullptr) return;
+    memoria->Visor1.capitulo = capituloComprobaciones;
+    mostrar(nombre);
+    memoria->Visor1.cambiado();
+  };
+  if (auto* memoria = dynamic_cast<FormMemoria*>(cargada(nombre))) memoria->mostrar(diseno);
 }
 
 Form2& Aplicacion::form2() { return dynamic_cast<Form2&>(*cargar("Form2")); }

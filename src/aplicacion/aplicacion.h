@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "cad/dibujo_dxf.h"
+#include "memoria/form_memoria.h"
 #include "modelo/design_state.h"
 #include "plataforma/dialogos.h"
 #include "plataforma/navegador.h"
@@ -47,6 +48,7 @@ class Aplicacion : public Navegador {
   void descargar(Ventana& ventana) override;
   void imprimir(Ventana& ventana) override;
   void copiar(Ventana& ventana) override;
+  void calculoTerminado(VentanaDatos& ventana) override;
   void terminar() override;
   void calculado() override;
   Evento comoMostrar(std::string_view ventana) const override;
@@ -61,11 +63,14 @@ class Aplicacion : public Navegador {
   };
   static const std::vector<Entrada>& catalogo();
 
+  std::unique_ptr<Ventana> memoriaDe(std::string_view datos);
   Form2& form2();
   Form25& form25();
 
   Dialogos& dialogos_;
   SistemaVentanas& sistema_;
+  /// What each data window calculated last, for its report.
+  std::map<std::string, std::shared_ptr<const DisenoComprobado>, std::less<>> disenos_;
   ConexionDxf cad_{dialogos_};
   std::map<std::string, std::unique_ptr<Ventana>, std::less<>> ventanas_;
   std::vector<std::unique_ptr<Ventana>> salientes_;  ///< unloaded, alive until the running event has ended

@@ -20,6 +20,7 @@ VentanaEstructura::VentanaEstructura(const FormatoProyecto& formato, DesignState
       proyecto_(formato, estado, *this, parametros, dialogos) {
   unirArchivo();
   Command3.Click = [this] { Command3_Click(); };
+  mnmemoria.Click = [this] { navegador_.mostrar("Memoria" + nombre()); };
   estado_.esNuevo = true;
 }
 
@@ -57,6 +58,7 @@ void VentanaEstructura::Command3_Click() {
   calculado_ = false;
   quitarSenales(*this);
   quitarSenales(deParametros_);
+  dialogos_.mensajes.clear();
   try {
     calculado_ = calcular();
   } catch (const FalloAritmetico& fallo) {
@@ -75,6 +77,7 @@ void VentanaEstructura::contarFallo(const FalloAritmetico& fallo) {
     navegador_.mostrar(deParametros_.nombre());
     disparar(deParametros_.alPedirCorreccion);
   }
+  navegador_.calculoTerminado(*this);
 }
 
 void VentanaEstructura::Abrir_Archivo() {
@@ -125,6 +128,7 @@ Evento VentanaEstructura::comoMostrar(std::string_view resultado) const {
 
 void VentanaEstructura::habilitar(std::initializer_list<Menu*> menus, bool activos) {
   for (Menu* m : menus) m->Enabled = activos;
+  mnmemoria.Enabled = activos;
 }
 
 void VentanaEstructura::vaciarCampos(std::initializer_list<TextBox*> campos) {

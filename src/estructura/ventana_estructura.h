@@ -9,7 +9,7 @@
 #include "modelo/design_state.h"
 #include "modelo/proyecto.h"
 #include "plataforma/control.h"
-#include "plataforma/dialogos.h"
+#include "plataforma/mensaje.h"
 #include "plataforma/navegador.h"
 #include "plataforma/ventana_datos.h"
 
@@ -58,6 +58,7 @@ class VentanaEstructura : public VentanaDatos {
   Menu mncerrar{*this, "mncerrar"};
   Menu mngrafico{*this, "mngrafico"};
   Menu mntanque{*this, "mntanque"};
+  Menu mnmemoria{*this, "mnmemoria"};  ///< the design report
   Menu mnparam{*this, "mnparam"};
   Toolbar Toolbar1{*this, "Toolbar1", {"nuevo", "abrir", "guardar", "Copiar", "imprimir"}};
 
@@ -65,6 +66,7 @@ class VentanaEstructura : public VentanaDatos {
   void Command3_Click() override;
   bool calculado() const override { return calculado_; }
   Evento comoMostrar(std::string_view resultado) const override;
+  const std::vector<Mensaje>& mensajes() const override { return dialogos_.mensajes; }
   void abrir(const std::string& ruta) override;
   void Abrir_Archivo();
   void Guardar_Archivo() { proyecto_.Guardar_Archivo(); }
@@ -83,7 +85,7 @@ class VentanaEstructura : public VentanaDatos {
   /// Reads Q and both canals' fields in the order of the windows: first the upstream canal.
   void leerCanalArriba();
   void leerCanalAbajo();
-  /// Opens a window from a menu.
+  /// Opens a window from a menu; the report's is the last entry and goes with all the others.
   Evento abre(const char* ventana);
   /// The same for a result window, which comoMostrar finds.
   void abreResultado(Menu& menu, const char* ventana);
@@ -109,7 +111,7 @@ class VentanaEstructura : public VentanaDatos {
   bool algunoVacio(std::initializer_list<const TextBox*> campos) const;
 
   DesignState& estado_;
-  Dialogos& dialogos_;
+  DialogosAnotados dialogos_;
   Navegador& navegador_;
 
  private:

@@ -22,6 +22,7 @@ VentanaTanques::VentanaTanques(const FormatoProyecto& formato, DesignState& esta
     const MenuBloques bloques = pulsarTabla(Grid1.tabla, Grid1.MouseRow, estado_, parametros_, longitudEnRejilla_);
     if (bloques != MenuBloques::igual) mntabla.Enabled = bloques == MenuBloques::activo;
     sbStatusBar.Nota = "";
+    if (calculado()) navegador_.calculoTerminado(*this);
   };
   Grid1.DblClick = [this] { estado_.tipoTanque = Grid1.MouseRow; };
   static constexpr std::array hojas = {"Form22", "Form5", "Form21", "Form23"};

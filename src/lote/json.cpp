@@ -8,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "comun/version.h"
+#include "modelo/codificacion.h"
 #include "plataforma/rejilla.h"
 
 namespace calvento::lote {
@@ -32,6 +33,13 @@ void EscritorJson::clave(std::string_view nombre) {
 }
 void EscritorJson::texto(std::string_view valor) {
   separar();
+  const auto sinMas = [](char c) {
+    return static_cast<unsigned char>(c) >= 0x20 && c != '"' && c != '\\' && c != 0x7F;
+  };
+  if (std::all_of(valor.begin(), valor.end(), sinMas) && esUtf8(valor)) {  // nearly all: no need of the library
+    salida_.append(1, '"').append(valor).append(1, '"');
+    return;
+  }
   // file names may be no UTF-8: what is not is replaced, since the line must stay readable
   salida_ += nlohmann::json(valor).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }

@@ -131,6 +131,12 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
                   "En el nombre, {} es el nombre del proyecto: hace falta con más\n"
                   "de un proyecto")
       ->type_name("ARCHIVO");
+  if constexpr (conQt)
+    programa
+        .add_option("--memoria", o.memoria,
+                    "Guarda la memoria de cálculo como PDF, HTML u ODT, por la extensión;\n"
+                    "{} en el nombre, como en --dibujo")
+        ->type_name("ARCHIVO");
 
   comprobarGuiones(argc, argv);
   try {

@@ -29,7 +29,8 @@ struct Opciones {
   bool responder = true;  ///< the answer to every question, true for yes
   std::string dibujo;     ///< file of the drawing; "{}" stands for the project's name; empty for none
   std::string vista = "vistaTodo";
-  std::string dxf;  ///< file of the CAD export, named as that of the drawing
+  std::string memoria;  ///< file of the design report, named as that of the drawing
+  std::string dxf;      ///< file of the CAD export, named as that of the drawing
 };
 
 /// A command line that cannot be carried out; what() is a Spanish text for the user.

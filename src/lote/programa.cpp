@@ -6,6 +6,7 @@
 #include "lote/campos.h"
 #include "lote/dibujo.h"
 #include "lote/json.h"
+#include "lote/memoria.h"
 #include "lote/opciones.h"
 #include "lote/resumen.h"
 #include "lote/senales.h"
@@ -34,6 +35,8 @@ void exportar(Sesion& sesion, const Opciones& opciones, Resultado& r) {
     if constexpr (conQt)
       if (!opciones.dibujo.empty()) exportarDibujoDe(sesion, opciones);
     if (!opciones.dxf.empty()) exportarDxfDe(sesion, opciones);
+    if constexpr (conQt)
+      if (!opciones.memoria.empty()) escribirMemoriaDe(sesion, opciones);
   } catch (const std::exception& fallo) {
     r.quejas += queja(sesion.archivo(), fallo.what());
     r.estado = errores;

@@ -141,13 +141,15 @@ std::string comprobaciones(const Sesion& sesion) {
   if (todas.empty()) return {};
   const CuentaComprobaciones cuenta = contar(todas);
   std::string s = "\nCOMPROBACIONES: " + std::to_string(cuenta.cumplen) + " de " + std::to_string(cuenta.total) + "\n";
-  const auto cifra = [](double x) { return std::isfinite(x) ? formato(Real(x), "0.000") : std::string("-"); };
+  const auto cifra = [](const Comprobacion& c, double x) {
+    return std::isfinite(x) ? formato(Real(x), decimalesDe(c) == 0 ? "0" : "0.000") : std::string("-");
+  };
   for (const Comprobacion& c : todas) {
     if (c.estado == Comprobacion::Estado::noAplica) continue;
     const bool mala = c.estado != Comprobacion::Estado::cumple;
     s += (mala ? "> " : "  ") + alineado(std::string(c.nombre), 42) +
-         alineado(std::string(nombreEstado(c.estado)), 13) + alineado(cifra(c.valor), 10) + " límite " +
-         cifra(c.limite) + (c.unidad.empty() ? "" : " ") + std::string(c.unidad) + "\n";
+         alineado(std::string(nombreEstado(c.estado)), 13) + alineado(cifra(c, c.valor), 10) + " límite " +
+         cifra(c, c.limite) + (c.unidad.empty() ? "" : " ") + std::string(c.unidad) + "\n";
     if (mala) s += "      " + visible(c.detalle) + "\n";
   }
   return s;

@@ -28,8 +28,9 @@ struct Clase {
 };
 
 std::span<const Clase> clases() {
-  static const std::array<Clase, 2> todas = {
-      {{"--dibujo", &Opciones::dibujo, {"svg", "pdf", "png"}}, {"--dxf", &Opciones::dxf, {"dxf"}}}};
+  static const std::array<Clase, 3> todas = {{{"--dibujo", &Opciones::dibujo, {"svg", "pdf", "png"}},
+                                              {"--dxf", &Opciones::dxf, {"dxf"}},
+                                              {"--memoria", &Opciones::memoria, {"pdf", "html", "odt"}}}};
   return todas;
 }
 

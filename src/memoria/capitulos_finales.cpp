@@ -33,9 +33,10 @@ void comprobaciones(Redaccion& r) {
           {{"Comprobación", "Valor", "Límite", "Estado", "Qué significa"}},
           {},
           {izquierda, derecha, derecha, izquierda, izquierda},
-          {}};
+          {},
+          {22, 11, 11, 12, 44}};
   for (const Comprobacion& c : r.comprobaciones) {
-    const auto cifra = [&](double v) { return std::isfinite(v) ? con(v, c.unidad) : std::string("–"); };
+    const auto cifra = [&](double v) { return std::isfinite(v) ? con(v, c.unidad, decimalesDe(c)) : std::string("–"); };
     const auto fuente = std::ranges::find(refs, c.fuente);
     t.filas.push_back(
         {std::string(c.nombre), cifra(c.valor), cifra(c.limite), std::string(nombreEstado(c.estado)),

@@ -79,7 +79,7 @@ void trayectoria(Redaccion& r) {
       r.parrafo(
           "La losa sigue una parábola más tendida que el chorro libre, con 1.5² veces su altura de velocidad, hasta "
           "la tangente con la rampa de ingreso.");
-      r.formula("Y = B X + A X²", "X desde el fin de la rápida, Y hacia arriba", "m");
+      r.formula("Y = B X + A X²", "X desde el fin de la rápida, Y hacia arriba", "");
       r.formula("A = −(S² + 1) g / (4.5 V²)", "−(" + S + "² + 1) · 9.81 / (4.5 · " + n(d(e.vFin)) + "²)",
                 texto(Round(e.trayA, 6)) + " 1/m");
       r.formula("B = −S", "", texto(Round(e.trayB, 4)));

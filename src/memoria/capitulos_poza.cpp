@@ -48,7 +48,7 @@ void salto(Redaccion& r) {
   r.formula("F_{r1} = V_{1} / √(g A_{1} / T_{1})", "", n(d(e.fr1)));
   r.formula("Profundidad de la poza", "bajo el canal aguas abajo", con(e.profPoza, "m"));
   r.formula("Elevación del fondo", "", con(e.cotaPoza, "m"));
-  Tabla t{"Tipos de tanque amortiguador", {{}}, {}, {izquierda, izquierda, izquierda, izquierda}, {}};
+  Tabla t{"Tipos de tanque amortiguador", {{}}, {}, {izquierda, izquierda, izquierda, izquierda}, {}, {32, 24, 14, 30}};
   const int elegido = filaElegida(e);
   for (int f = 0; f < r.x.tanques.filas(); ++f) {
     std::vector<std::string> fila;

@@ -1,5 +1,8 @@
 #include "memoria/comprobaciones.h"
 
+#include <algorithm>
+#include <array>
+
 #include "memoria/lista.h"
 
 namespace calvento {
@@ -16,6 +19,12 @@ std::string_view nombreEstado(Comprobacion::Estado estado) {
       break;
   }
   return "no aplica";
+}
+
+int decimalesDe(const Comprobacion& c) {
+  static constexpr std::array<std::string_view, 6> cuentas = {"campos",   "valores", "estaciones",
+                                                              "caudales", "tramos",  "tipo"};
+  return std::ranges::find(cuentas, c.unidad) == cuentas.end() ? 3 : 0;
 }
 
 Comprobaciones comprobar(const Diseno& diseno, const Rejilla& verificacion, const Rejilla& estabilidad) {

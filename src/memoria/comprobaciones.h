@@ -27,6 +27,9 @@ using Comprobaciones = std::vector<Comprobacion>;
 /// "cumple", "no cumple", "no aplica", "observación".
 std::string_view nombreEstado(Comprobacion::Estado estado);
 
+/// How many decimals its figures are told with: a count has none.
+int decimalesDe(const Comprobacion& comprobacion);
+
 /// All checks of that kind of structure, always the same ones in the same order.
 Comprobaciones comprobar(const Diseno& diseno, const Rejilla& verificacion, const Rejilla& estabilidad);
 

@@ -1,6 +1,6 @@
 #include "memoria/documento.h"
 
-#include <filesystem>
+#include <ctime>
 
 #include "memoria/redaccion.h"
 
@@ -9,7 +9,7 @@ namespace calvento {
 namespace redaccion {
 
 void Redaccion::tabla(std::string titulo, const Rejilla& r) {
-  Tabla t{std::move(titulo), {}, {}, {}, {}};
+  Tabla t{std::move(titulo), {}, {}, {}, {}, {}};
   for (int c = 0; c < r.columnas(); ++c) t.columnas.push_back(r.alineacion(c));
   for (int f = 0; f < r.filas(); ++f) {
     std::vector<std::string> fila;
@@ -17,6 +17,8 @@ void Redaccion::tabla(std::string titulo, const Rejilla& r) {
     for (int c = 0; c < r.columnas(); ++c) {
       fila.push_back(r.texto(f, c));
       vacia = vacia && fila.back().empty();
+      // what a row has not, but for remarks in the last column, is told so
+      if (fila.back().empty() && f >= r.filasTitulo && c + 1 < r.columnas()) fila.back() = "–";
     }
     if (vacia) continue;
     (f < r.filasTitulo ? t.titulos : t.filas).push_back(std::move(fila));
@@ -26,7 +28,7 @@ void Redaccion::tabla(std::string titulo, const Rejilla& r) {
 
 void Redaccion::tabla(std::string titulo, std::vector<std::string> titulos, std::vector<std::vector<std::string>> filas,
                       std::vector<Alineacion> columnas) {
-  bloque(Tabla{std::move(titulo), {std::move(titulos)}, std::move(filas), std::move(columnas), {}});
+  bloque(Tabla{std::move(titulo), {std::move(titulos)}, std::move(filas), std::move(columnas), {}, {}});
 }
 
 }  // namespace redaccion
@@ -45,6 +47,12 @@ std::string sinMarcas(std::string_view texto) {
     }
   }
   return s;
+}
+
+std::string fechaDeHoy() {
+  const std::time_t ahora = std::time(nullptr);
+  char texto[16];
+  return {texto, std::strftime(texto, sizeof texto, "%d/%m/%Y", std::localtime(&ahora))};
 }
 
 Documento redactar(const Diseno& diseno, const Comprobaciones& comprobadas, const TablasInforme& tablas,

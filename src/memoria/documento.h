@@ -36,6 +36,7 @@ struct Tabla {
   /// Rows that are told apart: what does not hold, what was chosen.
   enum class Marca { ninguna, mal, aviso, elegida };
   std::vector<Marca> marcas;  ///< one for each row, or none at all
+  std::vector<int> anchos;    ///< of the columns in parts of a hundred; none: as the texts ask
 };
 
 /// One of the program's sketches by its name, with labels that the window puts on it; in pixels of its design.
@@ -84,6 +85,9 @@ struct Documento {
   CuentaComprobaciones cuenta;
   std::vector<Capitulo> capitulos;
 };
+
+/// Today as "23/11/2026".
+std::string fechaDeHoy();
 
 /// A text without its marks.
 std::string sinMarcas(std::string_view texto);

@@ -47,8 +47,9 @@ const char* alineado(Alineacion a) {
   return a == Alineacion::derecha ? "right" : a == Alineacion::centro ? "center" : "left";
 }
 
-std::string celda(const char* etiqueta, const std::string& texto, Alineacion a, std::string_view fondo) {
+std::string celda(const char* etiqueta, const std::string& texto, Alineacion a, std::string_view fondo, int ancho = 0) {
   std::string s = "<" + std::string(etiqueta) + " align=\"" + alineado(a) + "\"";
+  if (ancho > 0) s += " width=\"" + std::to_string(ancho) + "%\"";
   if (!fondo.empty()) s += " bgcolor=\"" + std::string(fondo) + "\"";
   return s + ">" + rico(texto) + "</" + etiqueta + ">";
 }
@@ -86,10 +87,13 @@ class Escritor {
   void operator()(const Tabla& t) {
     cerrarFormulas();
     if (!t.titulo.empty()) html += "<h4>" + rico(t.titulo) + "</h4>\n";
-    html += "<table class=\"tabla\" border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\"><thead>\n";
+    const bool ancha = t.columnas.size() > 7;
+    html += "<table class=\"" + std::string(ancha ? "tabla ancha" : "tabla") +
+            "\" border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\"><thead>\n";
     for (const auto& fila : t.titulos) {
       html += "<tr>";
-      for (std::size_t c = 0; c < fila.size(); ++c) html += celda("th", fila[c], Alineacion::centro, "#e4eaf1");
+      for (std::size_t c = 0; c < fila.size(); ++c)
+        html += celda("th", fila[c], Alineacion::centro, "#e4eaf1", c < t.anchos.size() ? t.anchos[c] : 0);
       html += "</tr>\n";
     }
     html += "</thead><tbody>\n";
@@ -125,6 +129,7 @@ h1 { font-size: 15pt; color: #17466f; }
 h2 { font-size: 12pt; color: #17466f; }
 h4 { font-size: 10pt; }
 th, td { font-size: 8.5pt; }
+table.ancha th, table.ancha td, th.ancha, td.ancha { font-size: 7pt; }
 p.nota { font-size: 8.5pt; color: #444444; }
 )";
 

@@ -204,12 +204,16 @@ class Toolbar : public Control {
   std::vector<std::string> claves_;
 };
 
-/// A status bar of one panel, and behind it a note that the hints in the panel do not wipe out.
+/// A status bar of one panel, behind it a note that the hints in the panel do not wipe out, and at its right a panel
+/// that can be clicked.
 class StatusBar : public Control {
  public:
   using Control::Control;
   Propiedad<std::string> Panel1{*this, {}};
   Propiedad<std::string> Nota{*this, {}};
+  Propiedad<std::string> Panel2{*this, {}};  ///< hidden while it is empty
+  Propiedad<bool> Alarma{*this, false};      ///< the second panel tells of something bad
+  Evento Panel2Click;
 };
 
 /// Two arrows that step a whole number.

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "plataforma/ventana.h"
+#include "plataforma/ventana_datos.h"
 
 namespace calvento {
 
@@ -28,6 +28,8 @@ class Navegador {
   /// The window's image to the default printer, and to the clipboard.
   virtual void imprimir(Ventana& ventana) = 0;
   virtual void copiar(Ventana& ventana) = 0;
+  /// A data window has ended a calculation, or changed what one left; to its end or not.
+  virtual void calculoTerminado(VentanaDatos& /*ventana*/) {}
   /// Ends the program at once, without a question.
   virtual void terminar() = 0;
   /// A data window has begun a calculation, which the record tells.
@@ -47,6 +49,8 @@ class SistemaVentanas {
   virtual void copiar(Ventana& ventana) = 0;
   virtual void terminar() = 0;
   virtual void calculado(const Calculo& /*ultimo*/) {}
+  /// Whether somebody looks: what is only shown need not be computed elsewhere.
+  virtual bool conPantalla() const { return true; }
   /// Runs an action when the running event has ended.
   virtual void despues(std::function<void()> accion) = 0;
 };

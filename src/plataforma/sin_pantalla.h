@@ -17,6 +17,7 @@ class SinPantalla : public SistemaVentanas {
   void imprimir(Ventana&) override {}
   void copiar(Ventana&) override {}
   void terminar() override {}
+  bool conPantalla() const override { return false; }
   void despues(std::function<void()> accion) override { pendientes_.push_back(std::move(accion)); }
   /// Runs what waits for the end of the running event.
   void atender() {

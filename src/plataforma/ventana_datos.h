@@ -2,7 +2,9 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "plataforma/mensaje.h"
 #include "plataforma/ventana.h"
 
 namespace calvento {
@@ -20,6 +22,8 @@ class VentanaDatos : public Ventana {
   virtual bool calculado() const = 0;
   /// How the window opens that result window; empty where it has no such result, or none yet.
   virtual Evento comoMostrar(std::string_view resultado) const = 0;
+  /// The boxes of the last Command3, and the answers to its questions.
+  virtual const std::vector<Mensaje>& mensajes() const = 0;
 };
 
 }  // namespace calvento

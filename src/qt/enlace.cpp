@@ -18,12 +18,14 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QStatusBar>
 #include <QTabBar>
 #include <QTextEdit>
 #include <QToolBar>
 
 #include "qt/cadena.h"
 #include "qt/vista_lienzo.h"
+#include "qt/vista_memoria.h"
 
 namespace calvento {
 
@@ -65,7 +67,8 @@ bool tienePartesPropias(const QWidget* w) {
   return qobject_cast<const QToolBar*>(w) || qobject_cast<const QTabBar*>(w) ||
          qobject_cast<const QAbstractScrollArea*>(w) || qobject_cast<const QComboBox*>(w) ||
          qobject_cast<const QLineEdit*>(w) || qobject_cast<const QAbstractSpinBox*>(w) ||
-         qobject_cast<const QMenu*>(w) || qobject_cast<const QMenuBar*>(w);
+         qobject_cast<const QMenu*>(w) || qobject_cast<const QMenuBar*>(w) || qobject_cast<const QStatusBar*>(w) ||
+         dynamic_cast<const VistaMemoria*>(w) != nullptr;
 }
 
 }  // namespace

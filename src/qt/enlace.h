@@ -11,6 +11,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include "memoria/form_memoria.h"
 #include "plataforma/control.h"
 #include "plataforma/lienzo.h"
 #include "plataforma/rejilla.h"
@@ -70,6 +71,7 @@ class Enlace : public QObject {
   Refresco unirRotulo(Label& rotulo);
   Refresco unirTabla(Grid& tabla);
   Refresco unirLienzo(PictureBox& caja);
+  Refresco unirMemoria(VisorMemoria& visor);
   Refresco unirGrupo(Control& grupo);
 
   /// The properties that all controls have, for a widget.

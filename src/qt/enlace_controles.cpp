@@ -26,6 +26,7 @@
 #include "qt/numero_tecleado.h"
 #include "qt/resultado_accesible.h"
 #include "qt/vista_lienzo.h"
+#include "qt/vista_memoria.h"
 #include "qt/vista_rejilla.h"
 
 namespace calvento {
@@ -105,6 +106,7 @@ Enlace::Refresco Enlace::unir(Control& control) {
   if (auto* c = dynamic_cast<ProgressBar*>(&control)) return unirAvance(*c);
   if (auto* c = dynamic_cast<Grid*>(&control)) return unirTabla(*c);
   if (auto* c = dynamic_cast<PictureBox*>(&control)) return unirLienzo(*c);
+  if (auto* c = dynamic_cast<VisorMemoria*>(&control)) return unirMemoria(*c);
   return unirGrupo(control);  // frames and decorations
 }
 
@@ -300,11 +302,22 @@ Enlace::Refresco Enlace::unirEstado(StatusBar& estado) {
   nota->setObjectName(aQt(estado.nombre() + "_nota"));
   nota->setTextFormat(Qt::PlainText);
   barra->addPermanentWidget(nota);
-  return [&estado, panel, nota, comun = comunes(estado, *barra)] {
+  auto* segundo = new QToolButton(barra);
+  segundo->setObjectName(aQt(estado.nombre() + "_panel2"));
+  segundo->setAutoRaise(true);
+  segundo->setFocusPolicy(Qt::TabFocus);
+  segundo->setToolTip(QStringLiteral("Ver las comprobaciones en la memoria de cálculo"));
+  barra->addPermanentWidget(segundo);
+  connect(segundo, &QToolButton::clicked, this, [this, &estado] { atender(estado.Panel2Click); });
+  return [&estado, panel, nota, segundo, comun = comunes(estado, *barra)] {
     comun();
     panel->setText(aQt(estado.Panel1.valor()));
     nota->setText(aQt(estado.Nota.valor()));
     nota->setVisible(!vacio(estado.Nota));
+    segundo->setText(aQt(estado.Panel2.valor()));
+    segundo->setVisible(!estado.Panel2.valor().empty());
+    segundo->setStyleSheet(estado.Alarma ? QStringLiteral("QToolButton { color: #c01c1c; font-weight: bold; }")
+                                         : QString());
   };
 }
 
@@ -344,6 +357,16 @@ Enlace::Refresco Enlace::unirLienzo(PictureBox& caja) {
   if (vista == nullptr) return {};
   vista->mostrar(caja);
   return comunes(caja, *vista);
+}
+
+Enlace::Refresco Enlace::unirMemoria(VisorMemoria& visor) {
+  auto* vista = dynamic_cast<VistaMemoria*>(widgetDe<QWidget>(visor));
+  if (vista == nullptr) return {};
+  vista->mostrar(visor);
+  return [comun = comunes(visor, *vista), vista] {
+    comun();
+    vista->refrescar();
+  };
 }
 
 Enlace::Refresco Enlace::unirGrupo(Control& grupo) {

@@ -12,6 +12,7 @@
 
 #include "memoria/html.h"
 #include "modelo/archivo_proyecto.h"
+#include "modelo/rutas.h"
 #include "qt/cadena.h"
 #include "qt/exportar_dibujo.h"
 #include "qt/figura_memoria.h"
@@ -96,8 +97,7 @@ void escribirMemoria(const Documento& documento, const std::string& archivo) {
                            : e == "html" ? comoPaginaHtml(documento)
                                          : comoOdt(documento);
   if (datos.isEmpty()) throw std::runtime_error("No se pudo hacer la memoria " + archivo);
-  escribirAtomico(std::u8string(archivo.begin(), archivo.end()),
-                  {datos.constData(), static_cast<std::size_t>(datos.size())});
+  escribirAtomico(comoRuta(archivo), {datos.constData(), static_cast<std::size_t>(datos.size())});
 }
 
 }  // namespace calvento

@@ -96,6 +96,8 @@ void juntarTitulos(QTextDocument& doc) {
       if (formato.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) continue;
       formato.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
       QTextCursor(b).setBlockFormat(formato);
+      // laid out anew as a whole: a part of it alone loses what stands behind tables
+      doc.markContentsDirty(0, doc.characterCount());
       cambio = true;
     }
     if (!cambio) return;
@@ -144,6 +146,7 @@ void MaquetaMemoria::anadirTexto(const std::string& html, std::size_t desde, std
   doc.setHtml(aQt(html));
   vestirTablas(doc.rootFrame());
   doc.setPageSize(QSizeF(anchoTexto, altoTexto) * puntosPorMm);
+  doc.markContentsDirty(0, doc.characterCount());
   juntarTitulos(doc);
   for (int i = 0; i < doc.pageCount(); ++i) hojas_.push_back({static_cast<int>(partes_.size()), i, nullptr, {}});
   partes_.push_back(std::move(p));

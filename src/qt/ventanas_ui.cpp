@@ -29,6 +29,7 @@
 #include "ui_Form6.h"
 #include "ui_Form7.h"
 #include "ui_Form8.h"
+#include "ui_FormMemoria.h"
 #include "ui_MarcoExportar.h"
 #include "ui_frmAbout.h"
 #include "ui_frmMain.h"
@@ -73,6 +74,9 @@ constexpr std::array ventanas_ui = {
     VentanaUi{"Form12", Puesto::hija, construir<Ui::MarcoExportar>, true},
     VentanaUi{"Form9", Puesto::hija, construir<Ui::MarcoExportar>, true},
     VentanaUi{"Form18", Puesto::hija, construir<Ui::MarcoExportar>, true},
+    VentanaUi{"MemoriaForm10", Puesto::hija, construir<Ui::FormMemoria>},
+    VentanaUi{"MemoriaForm1", Puesto::hija, construir<Ui::FormMemoria>},
+    VentanaUi{"MemoriaForm16", Puesto::hija, construir<Ui::FormMemoria>},
 };
 
 }  // namespace
