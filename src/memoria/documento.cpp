@@ -2,6 +2,7 @@
 
 #include <ctime>
 
+#include "comun/version.h"
 #include "memoria/redaccion.h"
 
 namespace calvento {
@@ -48,6 +49,8 @@ std::string sinMarcas(std::string_view texto) {
   }
   return s;
 }
+
+std::string programaYVersion() { return "Calvento " + version(); }
 
 std::string fechaDeHoy() {
   const std::time_t ahora = std::time(nullptr);

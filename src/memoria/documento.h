@@ -96,7 +96,8 @@ std::string sinMarcas(std::string_view texto);
 Documento redactar(const Diseno& diseno, const Comprobaciones& comprobaciones, const TablasInforme& tablas,
                    const Portada& portada);
 
-inline constexpr std::string_view versionPrograma = "Calvento 1.0";
+/// "Calvento 1.2.3".
+std::string programaYVersion();
 inline constexpr std::string_view capituloComprobaciones = "Comprobaciones";
 
 }  // namespace calvento

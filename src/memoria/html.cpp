@@ -130,6 +130,7 @@ h2 { font-size: 12pt; color: #17466f; }
 h4 { font-size: 10pt; }
 th, td { font-size: 8.5pt; }
 table.ancha th, table.ancha td, th.ancha, td.ancha { font-size: 7pt; }
+table { margin-top: 4px; margin-bottom: 6px; }
 p.nota { font-size: 8.5pt; color: #444444; }
 )";
 
@@ -172,7 +173,7 @@ std::string portadaHtml(const Documento& doc, const std::function<std::string(st
                   "<table class=\"portada\" border=\"0\" cellspacing=\"0\" cellpadding=\"6\" width=\"100%\">\n";
   s += linea("Obra", doc.portada.obra) + linea("Ubicación", doc.portada.ubicacion) +
        linea("Proyectista", doc.portada.proyectista) + linea("Revisión", doc.portada.revision) +
-       linea("Fecha", doc.portada.fecha) + linea("Programa", std::string(versionPrograma)) +
+       linea("Fecha", doc.portada.fecha) + linea("Programa", programaYVersion()) +
        linea("Comprobaciones",
              std::to_string(doc.cuenta.cumplen) + " de " + std::to_string(doc.cuenta.total) + " se cumplen");
   s += "</table>\n<p></p><h4>Contenido</h4>\n<table class=\"indice\" border=\"0\" cellspacing=\"0\" cellpadding=\"2\" "

@@ -265,8 +265,7 @@ void MaquetaMemoria::pintar(QPainter& pintor, int pagina, const QRectF& destino)
     escribir(QRectF(izquierda, 7, ancho, 5), Qt::AlignLeft | Qt::AlignVCenter,
              aQt(documento_->titulo + " – " + documento_->estructura + " – " + documento_->proyecto), 2.9, false);
     escribir(QRectF(izquierda, mm.height() - 13, ancho, 5), Qt::AlignLeft | Qt::AlignVCenter,
-             aQt(std::string(versionPrograma) +
-                 (documento_->portada.fecha.empty() ? "" : " – " + documento_->portada.fecha)),
+             aQt(programaYVersion() + (documento_->portada.fecha.empty() ? "" : " – " + documento_->portada.fecha)),
              2.9, false);
     escribir(QRectF(izquierda, mm.height() - 13, ancho, 5), Qt::AlignRight | Qt::AlignVCenter,
              QStringLiteral("Página %1 de %2").arg(pagina + 1).arg(paginas()), 2.9, false);
@@ -312,7 +311,7 @@ int MaquetaMemoria::buscar(const QString& texto, bool haciaAtras) {
 
 bool MaquetaMemoria::escribirPdf(QIODevice& salida) const {
   QPdfWriter escritor(&salida);
-  escritor.setCreator(aQt(std::string(versionPrograma)));
+  escritor.setCreator(aQt(programaYVersion()));
   escritor.setTitle(aQt(documento_->titulo + " - " + documento_->proyecto));
   escritor.setResolution(1200);
   QPainter pintor;
