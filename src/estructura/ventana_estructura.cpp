@@ -64,6 +64,7 @@ void VentanaEstructura::Command3_Click() {
   } catch (const FalloAritmetico& fallo) {
     contarFallo(fallo);
   }
+  navegador_.calculoTerminado(*this);
 }
 
 /// The fields that may be the reason are marked already behind the box; what is in sight is corrected first.
@@ -77,7 +78,6 @@ void VentanaEstructura::contarFallo(const FalloAritmetico& fallo) {
     navegador_.mostrar(deParametros_.nombre());
     disparar(deParametros_.alPedirCorreccion);
   }
-  navegador_.calculoTerminado(*this);
 }
 
 void VentanaEstructura::Abrir_Archivo() {

@@ -1,5 +1,6 @@
 #include "lote/memoria.h"
 
+#include "lote/salidas.h"
 #include "memoria/documento.h"
 #include "qt/escribir_memoria.h"
 

@@ -19,10 +19,10 @@ void Redaccion::tabla(std::string titulo, const Rejilla& r) {
       fila.push_back(r.texto(f, c));
       vacia = vacia && fila.back().empty();
       // what a row has not, but for remarks in the last column, is told so
-      if (fila.back().empty() && f >= r.filasTitulo && c + 1 < r.columnas()) fila.back() = "–";
+      if (fila.back().empty() && f >= r.filasTitulo() && c + 1 < r.columnas()) fila.back() = "–";
     }
     if (vacia) continue;
-    (f < r.filasTitulo ? t.titulos : t.filas).push_back(std::move(fila));
+    (f < r.filasTitulo() ? t.titulos : t.filas).push_back(std::move(fila));
   }
   bloque(std::move(t));
 }

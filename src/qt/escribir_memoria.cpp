@@ -11,7 +11,7 @@
 #include <QUrl>
 
 #include "memoria/html.h"
-#include "modelo/archivo_proyecto.h"
+#include "modelo/guardado.h"
 #include "modelo/rutas.h"
 #include "qt/cadena.h"
 #include "qt/exportar_dibujo.h"
@@ -97,7 +97,7 @@ void escribirMemoria(const Documento& documento, const std::string& archivo) {
                            : e == "html" ? comoPaginaHtml(documento)
                                          : comoOdt(documento);
   if (datos.isEmpty()) throw std::runtime_error("No se pudo hacer la memoria " + archivo);
-  escribirAtomico(comoRuta(archivo), {datos.constData(), static_cast<std::size_t>(datos.size())});
+  guardarEntero(comoRuta(archivo), {datos.constData(), static_cast<std::size_t>(datos.size())});
 }
 
 }  // namespace calvento

@@ -37,7 +37,7 @@ namespace {
 
 constexpr double pasoAumento = 1.25;
 
-QSettings ajustes() { return {QStringLiteral("Calvento"), QStringLiteral("Calvento")}; }
+QSettings ajustes() { return QSettings(QStringLiteral("Calvento"), QStringLiteral("Calvento")); }
 
 void decir(QWidget* dueno, const QString& texto) {
   QMessageBox caja(QMessageBox::Warning, QStringLiteral("Calvento"), texto, QMessageBox::NoButton, dueno);
