@@ -110,7 +110,7 @@ void Aplicacion::calculoTerminado(VentanaDatos& ventana) {
     if (memoria == nullptr) return;
     memoria->Visor1.capitulo = capituloComprobaciones;
     mostrar(nombre);
-    memoria->Visor1.cambiado();
+    if (!memoria->Visor1.capitulo.empty()) memoria->Visor1.cambiado();  // a new window has gone there already
   };
   if (auto* memoria = dynamic_cast<FormMemoria*>(cargada(nombre))) memoria->mostrar(diseno);
 }

@@ -307,6 +307,10 @@ Enlace::Refresco Enlace::unirEstado(StatusBar& estado) {
   segundo->setAutoRaise(true);
   segundo->setFocusPolicy(Qt::TabFocus);
   segundo->setToolTip(QStringLiteral("Ver las comprobaciones en la memoria de cálculo"));
+  // its place is kept while it is hidden, so that the first result moves nothing above it
+  QSizePolicy sitio = segundo->sizePolicy();
+  sitio.setRetainSizeWhenHidden(true);
+  segundo->setSizePolicy(sitio);
   barra->addPermanentWidget(segundo);
   connect(segundo, &QToolButton::clicked, this, [this, &estado] { atender(estado.Panel2Click); });
   return [&estado, panel, nota, segundo, comun = comunes(estado, *barra)] {

@@ -164,6 +164,7 @@ void VistaMemoria::refrescar() {
   maqueta_ = std::make_unique<MaquetaMemoria>(*documento_);
   {
     const QSignalBlocker callado(capitulos_);
+    const int fila = std::max(capitulos_->currentRow(), 0);
     capitulos_->clear();
     capitulos_->addItem(QStringLiteral("Carátula"));
     for (std::size_t i = 0; i < documento_->capitulos.size(); ++i) {
@@ -171,7 +172,7 @@ void VistaMemoria::refrescar() {
       capitulos_->addItem((ultimo ? QString() : QStringLiteral("%1. ").arg(i + 1)) +
                           aQt(documento_->capitulos[i].titulo));
     }
-    capitulos_->setCurrentRow(0);
+    capitulos_->setCurrentRow(std::min(fila, capitulos_->count() - 1));
   }
   paginas_->mostrar(maqueta_.get());
   paginas_->irA(std::min(antes, maqueta_->paginas() - 1));
