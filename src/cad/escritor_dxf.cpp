@@ -7,6 +7,7 @@
 #include <numbers>
 
 #include "cad/cota_dxf.h"
+#include "comun/version.h"
 #include "modelo/codificacion.h"
 
 namespace calvento {
@@ -96,6 +97,7 @@ class Escritor {
   explicit Escritor(const DatosDxf& dibujo) : dibujo_(dibujo), limites_(limitesDe(dibujo)) {}
 
   std::string escribir() {
+    w_->dxfString(999, "Calvento " + version());  // a remark
     cabecera();
     tablas();
     bloques();

@@ -47,7 +47,7 @@ void comprobarSecciones(Caso& caso) {
     // bed and banks, of the water and of the lining
     const auto &agua = areas[0], &muro = areas[1];
     const double c = deben[i][1], H = deben[i][2], y = deben[i][3], b = deben[i][4], z = deben[i][5];
-    EXPECT_EQ(v.Combo1.Text(), deben[i][0]);
+    EXPECT_EQ(v.Combo1.Text(), deben[i][0].get<std::string>());
     // the levels are solved to a thousandth
     const double esperados[] = {c, y, b / 2, b / 2 + z * y, H, b / 2 + z * H};
     const double son[] = {agua[0].y, agua[1].y - agua[0].y, -agua[0].x, agua[2].x, muro[1].y - muro[0].y, -muro[1].x};
