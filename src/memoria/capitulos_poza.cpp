@@ -88,9 +88,9 @@ void hoja(Redaccion& r, const HojaDeBloques& h) {
   for (const RotuloHoja& rotulo : h.rotulos) {
     std::string valor(rotulo.texto);
     if (!rotulo.control.empty()) {
-      valor = ventana->buscar<Label>(rotulo.control)->Caption;
-      const bool numero = rotulo.nombre.starts_with("Número");
-      filas.push_back({std::string(rotulo.nombre), valor, numero ? "" : "m"});
+      const Label& medida = *ventana->buscar<Label>(rotulo.control);
+      valor = medida.Caption;
+      filas.push_back({std::string(medida.magnitud.nombre), valor, std::string(medida.magnitud.unidad)});
     }
     boceto.rotulos.push_back({valor, rotulo.x, rotulo.y, rotulo.ancho, rotulo.alto, rotulo.alineacion});
   }

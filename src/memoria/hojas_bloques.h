@@ -8,10 +8,9 @@
 
 namespace calvento {
 
-/// A label on the picture of a dimension sheet, where the window has it: a value with its name, or a fixed text.
+/// A label on the picture of a dimension sheet, where the window has it: a value, or a fixed text.
 struct RotuloHoja {
   std::string_view control;  ///< empty for a fixed text
-  std::string_view nombre;
   std::string_view texto;
   int x, y, ancho, alto;
   Alineacion alineacion;

@@ -21,6 +21,7 @@
 #include "memoria/html.h"
 #include "qt/cadena.h"
 #include "qt/figura_memoria.h"
+#include "qt/paginacion.h"
 
 namespace calvento {
 
@@ -70,40 +71,6 @@ class Figuras : public QObject, public QTextObjectInterface {
   const std::vector<const Figura*>& todas_;
 };
 
-bool esTitulo(const QTextBlock& b) { return b.blockFormat().headingLevel() > 0; }
-
-int paginaDeBloque(const QTextDocument& doc, const QTextBlock& b) {
-  const double alto = doc.pageSize().height();
-  const QRectF r = doc.documentLayout()->blockBoundingRect(b);
-  // the first line, which may have gone to the next page without its block
-  const double y = b.layout()->lineCount() > 0 ? r.top() + b.layout()->lineAt(0).y() : r.top();
-  return static_cast<int>(y / alto + 1e-6);
-}
-
-/// Sends headings that would stand alone at the foot of a page to the next one.
-void juntarTitulos(QTextDocument& doc) {
-  for (int ronda = 0; ronda < 40; ++ronda) {
-    bool cambio = false;
-    for (QTextBlock b = doc.begin(); b.isValid() && !cambio; b = b.next()) {
-      if (!esTitulo(b) || (b.previous().isValid() && esTitulo(b.previous()) &&
-                           paginaDeBloque(doc, b.previous()) == paginaDeBloque(doc, b)))
-        continue;
-      // what it is the heading of, past further headings
-      QTextBlock texto = b.next();
-      while (texto.isValid() && esTitulo(texto)) texto = texto.next();
-      if (!texto.isValid() || paginaDeBloque(doc, texto) == paginaDeBloque(doc, b)) continue;
-      QTextBlockFormat formato = b.blockFormat();
-      if (formato.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) continue;
-      formato.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-      QTextCursor(b).setBlockFormat(formato);
-      // laid out anew as a whole: a part of it alone loses what stands behind tables
-      doc.markContentsDirty(0, doc.characterCount());
-      cambio = true;
-    }
-    if (!cambio) return;
-  }
-}
-
 /// Thin grey lines in the tables, and headings that come again on each page.
 void vestirTablas(QTextFrame* marco) {
   for (QTextFrame* hijo : marco->childFrames()) {
@@ -147,7 +114,7 @@ void MaquetaMemoria::anadirTexto(const std::string& html, std::size_t desde, std
   vestirTablas(doc.rootFrame());
   doc.setPageSize(QSizeF(anchoTexto, altoTexto) * puntosPorMm);
   doc.markContentsDirty(0, doc.characterCount());
-  juntarTitulos(doc);
+  repartirEnPaginas(doc);
   for (int i = 0; i < doc.pageCount(); ++i) hojas_.push_back({static_cast<int>(partes_.size()), i, nullptr, {}});
   partes_.push_back(std::move(p));
 }
@@ -216,7 +183,8 @@ void MaquetaMemoria::pintarTexto(QPainter& pintor, const Hoja& hoja) const {
   pintor.translate(0, -hoja.enParte * alto);
   QAbstractTextDocumentLayout::PaintContext contexto;
   contexto.palette.setColor(QPalette::Text, Qt::black);
-  contexto.clip = QRectF(0, hoja.enParte * alto, parte.doc.pageSize().width(), alto);
+  // a hair less than the page: a line that begins where the page ends would be in the file twice, once unseen
+  contexto.clip = QRectF(0, hoja.enParte * alto, parte.doc.pageSize().width(), alto).adjusted(0, 1, 0, -1);
   pintor.setClipRect(contexto.clip, Qt::IntersectClip);
   if (hoja.parte == parteHallada_ && hallado_.hasSelection()) {
     QTextCharFormat marca;

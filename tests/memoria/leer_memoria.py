@@ -90,7 +90,17 @@ TITULOS = {
 }
 
 
+TITULO = re.compile(r"\d+\. [A-ZÁÉÍÓÚ][^.]*$|Sección transversal: |Secciones transversales$|Canal aguas (arriba|abajo)$|"
+                    r"Dimensiones|Resultados$|Resumen de resultados$|Datos del diseño$|Perfil hidráulico|Tipos de tanque")
+
+
 def de_pdf(archivo):
+    tendido = subprocess.run(["pdftotext", "-layout", archivo, "-"], capture_output=True, text=True, check=True).stdout
+    for i, pagina in enumerate(tendido.split("\f")[1:-1], 2):
+        lineas = [linea.strip() for linea in pagina.splitlines() if linea.strip()]
+        # header, text, foot; on the sheet of a drawing the title is all the text that must be
+        if not lineas[1].startswith("11. "):
+            exigir(not TITULO.match(lineas[-2]), f"page {i} ends in the heading {lineas[-2]}")
     texto = subprocess.run(["pdftotext", archivo, "-"], capture_output=True, text=True, check=True).stdout
     exigir(len(texto.split("\f")) - 1 >= 10, "pages")
     paginas = texto.split("\f")[:-1]
