@@ -22,8 +22,6 @@ Calvento dimensions the structures that take the energy out of the water along
 a canal: chutes, inclined and vertical drops, with their control section,
 transitions and stilling basin. Its interface is Spanish, its units metric.
 calvento-lote calculates project files without a window.")
-  # the icons are SVG, whose plug-in Qt needs no symbol of: it became a package of its own after Qt 6.4
-  set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-svg-plugins | libqt6svg6 (<< 6.5)")
   set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, qt6-translations-l10n, qt6-wayland")
 else()
   set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Hydraulic design of chutes and drops on the terminal

@@ -1,6 +1,6 @@
 // What is made when the program is built: icons in the sizes of desktops, the manual as PDF and as HTML.
 //
-//   calvento_hacer iconos CARPETA DIBUJO.svg DESTINO     CARPETA/<n>x<n>/DESTINO.png for each size n
+//   calvento_hacer iconos CARPETA DIBUJO.pic DESTINO     CARPETA/<n>x<n>/DESTINO.png for each size n
 //   calvento_hacer manual MANUAL.md DESTINO.pdf DESTINO.html VERSION
 
 #include <algorithm>
@@ -15,10 +15,11 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QRegularExpression>
-#include <QSvgRenderer>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextTable>
+
+#include "qt/trazos_qt.h"
 
 namespace {
 
@@ -28,13 +29,13 @@ namespace {
 }
 
 void hacerIconos(const QString& carpeta, const QString& dibujo, const QString& destino) {
-  QSvgRenderer svg(dibujo);
-  if (!svg.isValid()) terminar("no es un dibujo SVG: " + dibujo);
+  const calvento::TrazosQt trazos(dibujo);
+  if (!trazos.valido()) terminar("no es un dibujo: " + dibujo);
   for (const int lado : {16, 22, 24, 32, 48, 64, 128, 256}) {
     QImage imagen(lado, lado, QImage::Format_ARGB32_Premultiplied);
     imagen.fill(Qt::transparent);
     QPainter pintor(&imagen);
-    svg.render(&pintor);
+    trazos.pintar(pintor, QRectF(imagen.rect()));
     pintor.end();
     const QString archivo = QString("%1/%2x%2/%3.png").arg(carpeta).arg(lado).arg(destino);
     if (!QDir().mkpath(QFileInfo(archivo).path()) || !imagen.save(archivo)) terminar("no se pudo escribir " + archivo);
@@ -233,9 +234,9 @@ void cuidarPies(QTextDocument& documento, double minimo, double alto) {
 void portada(Hojas& hojas, const QString& titulo, const QString& version) {
   QPainter& p = hojas.pintor();
   const double pt = hojas.punto();
-  QSvgRenderer emblema(QStringLiteral(CALVENTO_EMBLEMA));
+  const calvento::TrazosQt emblema(QStringLiteral(CALVENTO_EMBLEMA));
   const double lado = 130 * pt;
-  emblema.render(&p, QRectF((hojas.hoja().width() - lado) / 2, 130 * pt, lado, lado));
+  emblema.pintar(p, QRectF((hojas.hoja().width() - lado) / 2, 130 * pt, lado, lado));
   const auto linea = [&](double y, double tamano, bool negrita, const QColor& color, const QString& texto) {
     QFont f(letra);
     f.setPointSizeF(tamano);

@@ -5,13 +5,12 @@
 
 #include <QDynamicPropertyChangeEvent>
 #include <QPainter>
-#include <QSvgRenderer>
 
 namespace calvento {
 
 namespace {
 
-constexpr const char* propiedadSvg = "svg";
+constexpr const char* propiedadTrazos = "trazos";
 constexpr qreal pasoEscala = 1.0 / 32;
 constexpr qreal mayorEscala = 4;
 
@@ -34,12 +33,11 @@ bool cabe(const QWidget& w) {
 }  // namespace
 
 Boceto::Boceto(QWidget* padre) : QWidget(padre) {}
-Boceto::~Boceto() = default;
 
 bool Boceto::event(QEvent* evento) {
   if (evento->type() == QEvent::DynamicPropertyChange &&
-      static_cast<QDynamicPropertyChangeEvent*>(evento)->propertyName() == propiedadSvg) {
-    dibujo_ = std::make_unique<QSvgRenderer>(property(propiedadSvg).toString());
+      static_cast<QDynamicPropertyChangeEvent*>(evento)->propertyName() == propiedadTrazos) {
+    dibujo_ = TrazosQt(property(propiedadTrazos).toString());
     updateGeometry();
     update();
   }
@@ -91,20 +89,13 @@ void Boceto::changeEvent(QEvent* evento) {
   if (evento->type() == QEvent::FontChange && !partes_.empty()) crecer();
 }
 
-QSize Boceto::sizeHint() const { return dibujo_ && dibujo_->isValid() ? dibujo_->defaultSize() : QSize(); }
+QSize Boceto::sizeHint() const { return dibujo_.valido() ? dibujo_.tamano().toSize() : QSize(); }
 
-QRectF Boceto::recuadro() const {
-  if (!dibujo_ || !dibujo_->isValid()) return {};
-  const QSizeF tamano = dibujo_->viewBoxF().size().scaled(size(), Qt::KeepAspectRatio);
-  return {QPointF((width() - tamano.width()) / 2, (height() - tamano.height()) / 2), tamano};
-}
+QRectF Boceto::recuadro() const { return dibujo_.lugarEn(QRectF(QPointF(0, 0), size())); }
 
 void Boceto::paintEvent(QPaintEvent*) {
-  const QRectF lugar = recuadro();
-  if (lugar.isEmpty()) return;
   QPainter pintor(this);
-  pintor.setRenderHint(QPainter::Antialiasing);
-  dibujo_->render(&pintor, lugar);
+  dibujo_.pintar(pintor, recuadro());
 }
 
 }  // namespace calvento

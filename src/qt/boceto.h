@@ -1,22 +1,20 @@
 #pragma once
 
-#include <memory>
 #include <vector>
 
 #include <QPointer>
 #include <QWidget>
 
-class QSvgRenderer;
+#include "qt/trazos_qt.h"
 
 namespace calvento {
 
-/// A vector sketch: paints the SVG named by its property "svg" (":/bocetos/rapida.svg"), as large as the widget allows
+/// A vector sketch: paints what its property "trazos" names (":/bocetos/rapida.pic"), as large as the widget allows
 /// in the picture's own proportions, sharp at any scale and in print. Labels and fields may lie on it, at fixed places:
 /// sketch, places and sizes grow together, as far as the font of the desktop asks for it, so that nothing is cut.
 class Boceto : public QWidget {
  public:
   explicit Boceto(QWidget* padre = nullptr);
-  ~Boceto() override;
 
   QSize sizeHint() const override;
   /// Where the picture lies in the widget; empty without a picture.
@@ -42,7 +40,7 @@ class Boceto : public QWidget {
   bool cabeTodo() const;
 
   std::vector<Parte> partes_;
-  std::unique_ptr<QSvgRenderer> dibujo_;
+  TrazosQt dibujo_;
 };
 
 }  // namespace calvento

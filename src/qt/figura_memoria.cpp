@@ -4,17 +4,17 @@
 #include <QFont>
 #include <QPainter>
 #include <QSvgGenerator>
-#include <QSvgRenderer>
 
 #include "qt/cadena.h"
 #include "qt/pintor.h"
+#include "qt/trazos_qt.h"
 
 namespace calvento {
 
 namespace {
 
-QString archivoDe(const BocetoRotulado& boceto) {
-  return QStringLiteral(":/bocetos/") + aQt(boceto.nombre) + QStringLiteral(".svg");
+TrazosQt trazosDe(const BocetoRotulado& boceto) {
+  return TrazosQt(QStringLiteral(":/bocetos/") + aQt(boceto.nombre) + QStringLiteral(".pic"));
 }
 
 Qt::Alignment alineacionDe(Alineacion a) {
@@ -25,12 +25,11 @@ Qt::Alignment alineacionDe(Alineacion a) {
 }
 
 void pintarBoceto(const BocetoRotulado& boceto, QPainter& pintor, const QRectF& destino) {
-  QSvgRenderer dibujo(archivoDe(boceto));
-  if (!dibujo.isValid()) return;
+  const TrazosQt dibujo = trazosDe(boceto);
+  if (!dibujo.valido()) return;
   pintor.save();
-  const QSizeF propio = dibujo.viewBoxF().size().scaled(destino.size(), Qt::KeepAspectRatio);
-  const QRectF lugar(destino.center() - QPointF(propio.width() / 2, propio.height() / 2), propio);
-  dibujo.render(&pintor, lugar);
+  const QRectF lugar = dibujo.lugarEn(destino);
+  dibujo.pintar(pintor, lugar);
   if (boceto.ancho > 0) {
     // the labels as the window has them, a little larger: a sheet is smaller than a window
     pintor.translate(lugar.topLeft());
@@ -60,7 +59,7 @@ void pintarFigura(const Figura& figura, QPainter& pintor, const QRectF& destino)
 QSizeF tamanoFigura(const Figura& figura) {
   const auto* boceto = std::get_if<BocetoRotulado>(&figura.dibujo);
   if (boceto == nullptr) return {figura.anchoMm, figura.altoMm};
-  const QSizeF propio = QSvgRenderer(archivoDe(*boceto)).viewBoxF().size();
+  const QSizeF propio = trazosDe(*boceto).caja();
   return propio.isEmpty() ? QSizeF(figura.anchoMm, figura.altoMm)
                           : propio.scaled(QSizeF(figura.anchoMm, 1e6), Qt::KeepAspectRatio);
 }

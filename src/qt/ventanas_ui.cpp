@@ -4,6 +4,7 @@
 #include <array>
 
 #include <QMainWindow>
+#include <QtPlugin>
 
 #include "qt/boceto.h"
 #include "ui_Form1.h"
@@ -33,6 +34,8 @@
 #include "ui_MarcoExportar.h"
 #include "ui_frmAbout.h"
 #include "ui_frmMain.h"
+
+Q_IMPORT_PLUGIN(IconoTrazos)
 
 namespace calvento {
 

@@ -52,7 +52,7 @@ VistaMemoria::VistaMemoria(QWidget* padre) : QWidget(padre) {
   auto* barra = new QToolBar(this);
   const auto boton = [&](const char* icono, const QString& texto, const QKeySequence& tecla, auto accion) {
     QAction* a =
-        barra->addAction(QIcon(QStringLiteral(":/iconos/%1.svg").arg(QLatin1String(icono))), texto, this, accion);
+        barra->addAction(QIcon(QStringLiteral(":/iconos/%1.pic").arg(QLatin1String(icono))), texto, this, accion);
     a->setShortcut(tecla);
     a->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     a->setToolTip(texto + QStringLiteral(" (") + tecla.toString(QKeySequence::NativeText) + u')');

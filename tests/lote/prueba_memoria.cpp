@@ -87,7 +87,7 @@ TEST(Memoria, SheetsOfBlocksNameTheLabelsOfTheirWindows) {
     ASSERT_TRUE(hoja);
     std::ifstream ui(fs::path(RAIZ_PROYECTO) / "src/poza" / (std::string(hoja->ventana) + ".ui"));
     const std::string diseno(std::istreambuf_iterator<char>(ui), {});
-    EXPECT_NE(diseno.find(std::string(hoja->boceto) + ".svg"), std::string::npos);
+    EXPECT_NE(diseno.find(std::string(hoja->boceto) + ".pic"), std::string::npos);
     for (const RotuloHoja& r : hoja->rotulos) {
       if (r.control.empty()) continue;
       const auto en = diseno.find("name=\"" + std::string(r.control) + "\"");
