@@ -3,8 +3,7 @@
 //   calvento_hacer iconos CARPETA DIBUJO.pic DESTINO     CARPETA/<n>x<n>/DESTINO.png for each size n
 //   calvento_hacer manual MANUAL.md DESTINO.pdf DESTINO.html VERSION
 
-#include <algorithm>
-#include <functional>
+#include <exception>
 #include <vector>
 
 #include <QAbstractTextDocumentLayout>
@@ -17,9 +16,11 @@
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextDocument>
-#include <QTextTable>
 
+#include "qt/texto_manual.h"
 #include "qt/trazos_qt.h"
+
+using namespace calvento;
 
 namespace {
 
@@ -44,119 +45,8 @@ void hacerIconos(const QString& carpeta, const QString& dibujo, const QString& d
 
 // ---------------------------------------------------------------------------------------------------------------------
 
-const QString letra = QStringLiteral("Liberation Sans");
-const QString letraFija = QStringLiteral("DejaVu Sans Mono");
-const QColor azul(0x1f, 0x4e, 0x79);
+const QString letra = FormaManual().letra;
 const QColor gris(0x60, 0x60, 0x60);
-const QColor fondo(0xf1, 0xf4, 0xf7);
-const QColor raya(0xb8, 0xc4, 0xd0);
-
-/// The name that links to a heading use: lower case, signs dropped, blanks as hyphens.
-QString ancla(const QString& titulo) {
-  static const QRegularExpression signos("[^\\w -]", QRegularExpression::UseUnicodePropertiesOption);
-  return titulo.toLower().remove(signos).replace(' ', '-');
-}
-
-/// Every block of the document that is a heading of this level or a higher one.
-void conTitulos(QTextDocument& documento, int nivel, const std::function<void(QTextCursor&, int)>& hacer) {
-  for (QTextBlock b = documento.begin(); b.isValid(); b = b.next()) {
-    const int suyo = b.blockFormat().headingLevel();
-    if (suyo == 0 || suyo > nivel) continue;
-    QTextCursor c(b);
-    c.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
-    hacer(c, suyo);
-  }
-}
-
-/// Lengths of formats are pixels of 96 to the inch, whatever the device of the document is.
-constexpr double punto = 96.0 / 72;
-
-/// The looks that a Markdown text lacks; pictures are no wider than `ancho`.
-void vestir(QTextDocument& documento, double ancho) {
-  static constexpr double tamanos[] = {0, 20, 15, 12, 10.5};
-  conTitulos(documento, 4, [&](QTextCursor& c, int nivel) {
-    QTextCharFormat f;
-    f.setFontFamilies({letra});
-    f.setFontPointSize(tamanos[nivel]);
-    f.setFontWeight(QFont::Bold);
-    f.setForeground(azul);
-    c.mergeCharFormat(f);
-    QTextBlockFormat b;
-    b.setTopMargin((nivel <= 2 ? 18 : 12) * punto);
-    b.setBottomMargin(5 * punto);
-    c.mergeBlockFormat(b);
-    c.setPosition(c.anchor());
-    c.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
-    QTextCharFormat nombre;
-    nombre.setAnchor(true);
-    nombre.setAnchorNames({ancla(c.block().text())});
-    c.mergeCharFormat(nombre);
-  });
-  for (QTextBlock b = documento.begin(); b.isValid(); b = b.next()) {
-    QTextCursor c(b);
-    c.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
-    const bool codigo = b.blockFormat().hasProperty(QTextFormat::BlockCodeFence) ||
-                        b.blockFormat().hasProperty(QTextFormat::BlockCodeLanguage) ||
-                        (b.blockFormat().nonBreakableLines() && !c.currentTable());
-    QTextBlockFormat bloque;
-    if (codigo || b.blockFormat().intProperty(QTextFormat::BlockQuoteLevel) > 0) bloque.setBackground(fondo);
-    if (!c.currentTable() && b.blockFormat().headingLevel() == 0)
-      bloque.setLineHeight(118, QTextBlockFormat::ProportionalHeight);
-    c.mergeBlockFormat(bloque);
-    for (auto it = b.begin(); !it.atEnd(); ++it) {
-      const QTextFragment trozo = it.fragment();
-      QTextCharFormat f = trozo.charFormat();
-      QTextCursor t(&documento);
-      t.setPosition(trozo.position());
-      t.setPosition(trozo.position() + trozo.length(), QTextCursor::KeepAnchor);
-      if (f.isImageFormat()) {
-        QTextImageFormat imagen = f.toImageFormat();
-        const QImage pixeles(documento.baseUrl().resolved(QUrl(imagen.name())).toLocalFile());
-        if (pixeles.isNull()) terminar("falta la imagen " + imagen.name());
-        imagen.setWidth(std::min(ancho, pixeles.width() * 0.6 * punto));
-        imagen.setHeight(imagen.width() * pixeles.height() / pixeles.width());
-        t.setCharFormat(imagen);
-        QTextBlockFormat centro;
-        centro.setAlignment(Qt::AlignHCenter);
-        centro.setLineHeight(100, QTextBlockFormat::ProportionalHeight);
-        t.mergeBlockFormat(centro);
-        continue;
-      }
-      if (f.fontFixedPitch() || codigo) {
-        f.setFontFamilies({letraFija});
-        f.setFontPointSize(documento.defaultFont().pointSizeF() * 0.86);
-      }
-      if (f.isAnchor() && !f.anchorHref().isEmpty()) {
-        f.setForeground(azul);
-        f.setFontUnderline(false);
-      }
-      t.setCharFormat(f);
-    }
-  }
-  for (QTextFrame* marco : documento.rootFrame()->childFrames()) {
-    auto* tabla = qobject_cast<QTextTable*>(marco);
-    if (tabla == nullptr) continue;
-    QTextTableFormat f = tabla->format();
-    f.setBorder(0);
-    f.setBorderCollapse(true);
-    f.setCellSpacing(0);
-    f.setCellPadding(3.5 * punto);
-    f.setHeaderRowCount(1);
-    f.setTopMargin(4 * punto);
-    f.setBottomMargin(8 * punto);
-    f.setWidth(QTextLength(QTextLength::PercentageLength, 100));
-    tabla->setFormat(f);
-    for (int celdas = tabla->rows() * tabla->columns(), i = 0; i < celdas; ++i) {
-      QTextTableCell celda = tabla->cellAt(i / tabla->columns(), i % tabla->columns());
-      QTextTableCellFormat suya = celda.format().toTableCellFormat();
-      suya.setBottomBorder(1);
-      suya.setBottomBorderStyle(QTextFrameFormat::BorderStyle_Solid);
-      suya.setBottomBorderBrush(raya);
-      if (celda.row() == 0) suya.setBackground(fondo);
-      celda.setFormat(suya);
-    }
-  }
-}
 
 /// The pages of a document on a painter, from page `desde` of it on.
 class Hojas {
@@ -203,15 +93,6 @@ class Hojas {
   int numero_ = 1;
 };
 
-void preparar(QTextDocument& documento, const QString& markdown, const QString& carpeta, double tamano) {
-  QFont f(letra);
-  f.setPointSizeF(tamano);
-  documento.setDefaultFont(f);
-  documento.setDocumentMargin(0);
-  documento.setBaseUrl(QUrl::fromLocalFile(carpeta + "/"));
-  documento.setMarkdown(markdown, QTextDocument::MarkdownDialectGitHub);
-}
-
 /// No heading stands alone at the foot of a page.
 void cuidarPies(QTextDocument& documento, double minimo, double alto) {
   const auto* orden = documento.documentLayout();
@@ -245,7 +126,7 @@ void portada(Hojas& hojas, const QString& titulo, const QString& version) {
     p.setPen(color);
     p.drawText(QRectF(0, y * pt, hojas.hoja().width(), 60 * pt), Qt::AlignHCenter | Qt::AlignTop, texto);
   };
-  linea(290, 30, true, azul, "CALVENTO");
+  linea(290, 30, true, azulManual, "CALVENTO");
   linea(336, 16, false, Qt::black, titulo);
   linea(380, 11, false, gris, "Diseño Hidráulico de Estructuras\nde Disipación de Energía en Canales");
   linea(430, 11, false, gris, "Versión " + version);
@@ -290,7 +171,7 @@ class Contenido {
     QFont f(letra, 15);
     f.setBold(true);
     hojas_.pintor().setFont(f);
-    hojas_.pintor().setPen(azul);
+    hojas_.pintor().setPen(azulManual);
     hojas_.pintor().drawText(QRectF(0, 0, hojas_.hoja().width(), 30 * hojas_.punto()), Qt::AlignLeft, "Contenido");
   }
 
@@ -309,7 +190,7 @@ class Contenido {
     p.drawText(linea, Qt::AlignRight | Qt::AlignVCenter, numero);
     const QFontMetricsF medidas(f, p.device());
     const double base = linea.bottom() - 4 * pt;
-    p.setPen(QPen(raya, 0.8 * pt, Qt::DotLine));
+    p.setPen(QPen(rayaManual, 0.8 * pt, Qt::DotLine));
     p.drawLine(QPointF(linea.left() + medidas.horizontalAdvance(e.titulo) + 6 * pt, base),
                QPointF(linea.right() - medidas.horizontalAdvance(numero) - 6 * pt, base));
   }
@@ -335,8 +216,9 @@ void hacerPdf(const QString& markdown, const QString& carpeta, const QString& ar
   Hojas hojas(pdf, version);
   QTextDocument documento;
   documento.documentLayout()->setPaintDevice(&pdf);
-  preparar(documento, cuerpo, carpeta, 10);
-  vestir(documento, hojas.texto().width() / hojas.punto() * punto);
+  documento.setDocumentMargin(0);
+  escribirManual(documento, cuerpo, QUrl::fromLocalFile(carpeta + "/"),
+                 {letra, 10, hojas.texto().width() / hojas.punto() * puntoManual});
   documento.setPageSize(hojas.texto());
   cuidarPies(documento, 60 * hojas.punto(), hojas.texto().height());
 
@@ -352,8 +234,8 @@ void hacerPdf(const QString& markdown, const QString& carpeta, const QString& ar
 
 void hacerHtml(const QString& markdown, const QString& carpeta, const QString& archivo) {
   QTextDocument documento;
-  preparar(documento, markdown, carpeta, 10.5);
-  vestir(documento, 720);
+  documento.setDocumentMargin(0);
+  escribirManual(documento, markdown, QUrl::fromLocalFile(carpeta + "/"), {letra, 10.5, 720});
   QString html = documento.toHtml();
   html.replace("<head>",
                "<head><meta charset=\"utf-8\" /><title>Manual del usuario de Calvento</title>"
@@ -375,8 +257,12 @@ int main(int argc, char** argv) {
     if (!entrada.open(QIODevice::ReadOnly)) terminar("no se pudo leer " + a[2]);
     const QString markdown = QString::fromUtf8(entrada.readAll());
     const QString carpeta = QFileInfo(a[2]).absolutePath();
-    hacerPdf(markdown, carpeta, a[3], a[5]);
-    hacerHtml(markdown, carpeta, a[4]);
+    try {
+      hacerPdf(markdown, carpeta, a[3], a[5]);
+      hacerHtml(markdown, carpeta, a[4]);
+    } catch (const std::exception& fallo) {
+      terminar(QString::fromUtf8(fallo.what()));
+    }
   } else {
     terminar("argumentos erróneos");
   }

@@ -15,11 +15,11 @@
 #include "dibujo/form3.h"
 #include "dibujo/form4.h"
 #include "dibujo/ventana_secciones.h"
+#include "estructura/ventana_estructura.h"
 #include "hidraulica/form14.h"
 #include "hidraulica/form15.h"
 #include "modelo/archivo_proyecto.h"
 #include "modelo/rutas.h"
-#include "plataforma/ventana_datos.h"
 #include "poza/form21.h"
 #include "poza/form22.h"
 #include "poza/form23.h"
@@ -66,6 +66,7 @@ const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
       {"MemoriaForm10", [](Aplicacion& a) { return a.memoriaDe("Form10"); }},
       {"MemoriaForm1", [](Aplicacion& a) { return a.memoriaDe("Form1"); }},
       {"MemoriaForm16", [](Aplicacion& a) { return a.memoriaDe("Form16"); }},
+      {"FormManual", [](Aplicacion&) { return std::make_unique<FormManual>(); }},
   };
   return ventanas;
 }
@@ -147,13 +148,20 @@ void Aplicacion::mostrar(std::string_view nombre) {
   if (Ventana* v = cargar(nombre)) sistema_.presentar(*v);
 }
 
-bool Aplicacion::abrirProyecto(const std::string& archivo) {
+VisorManual& Aplicacion::ayuda(std::string_view ventana) {
+  auto* manual = cargar<FormManual>("FormManual");
+  mostrar("FormManual");
+  if (ventana != manual->nombre()) manual->Visor1.abrirEn(capituloDe(ventana));
+  return manual->Visor1;
+}
+
+bool Aplicacion::abrirProyecto(const std::string& archivo, bool comoCopia) {
   for (const FormatoProyecto* formato : {&formatoRapida, &formatoCaidaInclinada, &formatoCaidaVertical}) {
     if (!tieneExtension(archivo, formato->extension)) continue;
-    auto* ventana = cargar<VentanaDatos>(formato->ventana);
+    auto* ventana = cargar<VentanaEstructura>(formato->ventana);
     if (ventana == nullptr) return true;  // why was told in a box
     sistema_.presentar(*ventana);
-    ventana->abrir(archivo);
+    comoCopia ? ventana->abrirCopia(archivo) : ventana->abrir(archivo);
     return true;
   }
   return false;

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "aplicacion/form_manual.h"
 #include "cad/dibujo_dxf.h"
 #include "memoria/form_memoria.h"
 #include "modelo/design_state.h"
@@ -27,8 +28,11 @@ class Aplicacion : public Navegador {
   void arrancar();
 
   /// Opens a project file in the data window of its extension, showing that window. Returns false when the extension is
-  /// none of the three.
-  bool abrirProyecto(const std::string& archivo);
+  /// none of the three. `comoCopia`: Guardar asks for another name.
+  bool abrirProyecto(const std::string& archivo, bool comoCopia = false);
+
+  /// Opens the manual at the chapter of that window; returns what shows it.
+  VisorManual& ayuda(std::string_view ventana);
 
   /// Loads the window if it is not loaded, without showing it. nullptr for an unknown name or when loading failed; a
   /// failure while loading is told in one box.

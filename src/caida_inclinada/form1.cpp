@@ -140,12 +140,12 @@ void Form1::nuevo() {
   Frame1.Visible = !mnsuper.Checked;
 }
 
-void Form1::trasLeer() {
+void Form1::trasLeer(bool calcula) {
   // a project is always calculated in the subcritical regime, and its window shows that face
   mnsuper.Checked = false;
-  Command3_Click();
+  if (calcula) Command3_Click();
   mostrarCara();
-  tomarTanqueLeido();
+  tomarTanqueLeido(calcula);
 }
 
 }  // namespace calvento

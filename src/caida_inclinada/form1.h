@@ -41,7 +41,7 @@ class Form1 : public VentanaTanques, private PantallaInclinada {
 
  private:
   bool calcular() override;
-  void trasLeer() override;
+  void trasLeer(bool calcula) override;
   void mostrarCara();
   void mostrarPiezasControl(bool visibles);
 

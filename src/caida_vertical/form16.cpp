@@ -116,7 +116,7 @@ void Form16::nuevo() {
   Frame1.Visible = true;
 }
 
-void Form16::trasLeer() {
+void Form16::trasLeer(bool calcula) {
   // the options take what the file says, also where they stood so already
   if (estado_.tipoTransVert == 0) {
     parametros_.Option3.Value = true;
@@ -127,7 +127,7 @@ void Form16::trasLeer() {
   }
   if (estado_.tipoTanque == 1) Option1.Value = true;
   if (estado_.tipoTanque == 0) Option2.Value = true;
-  Command3_Click();
+  if (calcula) Command3_Click();
 }
 
 }  // namespace calvento

@@ -31,7 +31,7 @@ class Form16 : public VentanaEstructura, private PantallaVertical {
 
  private:
   bool calcular() override;
-  void trasLeer() override;
+  void trasLeer(bool calcula) override;
   void Option1_Click();
   void Option2_Click();
   void mostrarSinObstaculos(bool sin);

@@ -16,6 +16,7 @@ VentanaEstructura::VentanaEstructura(const FormatoProyecto& formato, DesignState
       estado_(estado),
       dialogos_(dialogos),
       navegador_(navegador),
+      formato_(formato),
       deParametros_(parametros),
       proyecto_(formato, estado, *this, parametros, dialogos) {
   unirArchivo();
@@ -49,8 +50,29 @@ void VentanaEstructura::contarCalculo() {
 }
 
 void VentanaEstructura::empezarNuevo() {
+  dejarContenido();
   nuevo();
   proyecto_.olvidarArchivo();
+  disparar(proyecto_.alCoincidir);
+}
+
+void VentanaEstructura::vigilar(Evento alSustituir, Evento alCoincidir) {
+  proyecto_.alSustituir = std::move(alSustituir);
+  proyecto_.alCoincidir = std::move(alCoincidir);
+}
+
+Trabajo VentanaEstructura::trabajo() const {
+  Trabajo t = proyecto_.trabajo();
+  t.calculado = calculado_;
+  return t;
+}
+
+void VentanaEstructura::reponer(const Trabajo& trabajo) {
+  nuevo();
+  calculado_ = false;
+  quitarSenales(*this);
+  quitarSenales(deParametros_);
+  proyecto_.reponer(trabajo, [&] { trasLeer(trabajo.calculado); });
 }
 
 void VentanaEstructura::Command3_Click() {
@@ -81,11 +103,15 @@ void VentanaEstructura::contarFallo(const FalloAritmetico& fallo) {
 }
 
 void VentanaEstructura::Abrir_Archivo() {
-  proyecto_.Abrir_Archivo([this] { trasLeer(); });
+  proyecto_.Abrir_Archivo([this] { trasLeer(true); });
 }
 
 void VentanaEstructura::abrir(const std::string& ruta) {
-  proyecto_.abrir(ruta, [this] { trasLeer(); });
+  proyecto_.abrir(ruta, [this] { trasLeer(true); });
+}
+
+void VentanaEstructura::abrirCopia(const std::string& ruta) {
+  proyecto_.abrirCopia(ruta, [this] { trasLeer(true); });
 }
 
 void VentanaEstructura::leer(const TextBox& campo, Single DesignState::*valor) { estado_.*valor = Val(campo.Text); }

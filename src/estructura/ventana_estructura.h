@@ -68,18 +68,32 @@ class VentanaEstructura : public VentanaDatos {
   Evento comoMostrar(std::string_view resultado) const override;
   const std::vector<Mensaje>& mensajes() const override { return dialogos_.mensajes; }
   void abrir(const std::string& ruta) override;
+  /// Opens it as a copy: Guardar asks for a name.
+  void abrirCopia(const std::string& ruta);
   void Abrir_Archivo();
   void Guardar_Archivo() { proyecto_.Guardar_Archivo(); }
   void Guardarcomo_Archivo() { proyecto_.Guardarcomo_Archivo(); }
   virtual void nuevo() = 0;
+
+  const FormatoProyecto& formato() const { return formato_; }
+  const Ventana& parametros() const { return deParametros_; }
+  const std::string& archivo() const { return proyecto_.archivo(); }  ///< full path of the project; empty: none
+  /// What stands in the window and in its parameter window.
+  Trabajo trabajo() const;
+  /// Fills both windows with it; where it had been calculated, calculates as opening does.
+  void reponer(const Trabajo& trabajo);
+  /// For the one who keeps the user's work; see Proyecto.
+  void vigilar(Evento alSustituir, Evento alCoincidir);
 
   CommandButton* botonPredeterminado() override { return &Command3; }
 
  protected:
   /// Reading and calculation; whether it ran to its last step.
   virtual bool calcular() = 0;
-  /// What follows when a project file has been read.
-  virtual void trasLeer() = 0;
+  /// What follows when a project file has been read; `calcula`: with the calculation.
+  virtual void trasLeer(bool calcula) = 0;
+  /// The user leaves the contents without saving them.
+  void dejarContenido() { disparar(proyecto_.alSustituir); }
 
   void leer(const TextBox& campo, Single DesignState::*valor);
   /// Reads Q and both canals' fields in the order of the windows: first the upstream canal.
@@ -127,6 +141,7 @@ class VentanaEstructura : public VentanaDatos {
     Evento mostrar;
   };
   std::vector<Resultado> resultados_;
+  const FormatoProyecto& formato_;
   Ventana& deParametros_;
   Proyecto proyecto_;
   bool calculado_ = false;

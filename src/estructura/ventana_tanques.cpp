@@ -32,17 +32,18 @@ VentanaTanques::VentanaTanques(const FormatoProyecto& formato, DesignState& esta
   };
   for (const char* hoja : hojas) anotarResultado(mntabla, hoja, mntabla.Click);
   Command2.Click = [this] {
+    dejarContenido();
     estado_.tipoTanque = 0;
     navegador_.descargar(*this);
   };
 }
 
-void VentanaTanques::tomarTanqueLeido() {
+void VentanaTanques::tomarTanqueLeido(bool calcula) {
   const int fila = filaElegida(estado_);
   pintarTabla(Grid1.tabla, fila);
   pasandoFallos([&] { longitudPoza(estado_, parametros_); });
   // the calculation has just asked for a type in a box; why the project has none is said beside
-  sbStatusBar.Nota = fila == 0 ? "El proyecto no indica un tipo de tanque de la tabla (1 a 6)" : "";
+  sbStatusBar.Nota = fila == 0 && calcula ? "El proyecto no indica un tipo de tanque de la tabla (1 a 6)" : "";
 }
 
 void VentanaTanques::vaciarTabla() {

@@ -29,9 +29,9 @@ class VentanaTanques : public VentanaEstructura {
  protected:
   /// Before a sheet of block dimensions opens.
   virtual void antesDeBloques() {}
-  /// Marks the row of the stored basin type and sets its length; a type that is none of the table's is told in the
-  /// status bar until a row is chosen.
-  void tomarTanqueLeido();
+  /// Marks the row of the stored basin type and sets its length; where the calculation wanted one, a type that is none
+  /// of the table's is told in the status bar until a row is chosen.
+  void tomarTanqueLeido(bool calcula);
   void vaciarTabla();
 
   Form2& parametros_;

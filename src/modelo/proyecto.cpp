@@ -18,6 +18,33 @@ const CampoSingle* campoDelRegistro(std::string_view nombre) {
   return it == todos.end() ? nullptr : &*it;
 }
 
+/// A field or choice as a text; the function that puts such a text back. Nothing of what only shows.
+struct Entrada {
+  std::string valor;
+  std::function<void(const std::string&)> poner;
+};
+Entrada entradaDe(Control& control) {
+  const auto marca = [](bool puesta) { return std::string(puesta ? "1" : "0"); };
+  if (auto* c = dynamic_cast<TextBox*>(&control)) return {c->Text, [c](const std::string& v) { c->Text = v; }};
+  if (auto* c = dynamic_cast<CheckBox*>(&control))
+    return {marca(c->Value), [c](const std::string& v) { c->Value = v == "1"; }};
+  if (auto* c = dynamic_cast<OptionButton*>(&control))
+    return {marca(c->Value), [c](const std::string& v) {
+              if (v == "1") c->Value = true;  // its neighbours go off by it
+            }};
+  if (auto* c = dynamic_cast<ComboBox*>(&control))
+    return {c->Text(), [c](const std::string& v) {
+              const std::vector<std::string>& lista = c->List;
+              const auto it = std::find(lista.begin(), lista.end(), v);
+              if (it != lista.end()) c->ListIndex = static_cast<int>(it - lista.begin());
+            }};
+  if (auto* c = dynamic_cast<Menu*>(&control); c != nullptr && c->conMarca)
+    return {marca(c->Checked), [c, marca](const std::string& v) {
+              if (v != marca(c->Checked)) disparar(c->Click);
+            }};
+  return {};
+}
+
 }  // namespace
 
 void usarCarpetaDe(const std::string& ruta) {
@@ -52,16 +79,26 @@ void Proyecto::ponerLinea(std::string_view linea, const std::string& valor) {
 }
 
 OpcionesArchivo Proyecto::opciones(std::string titulo) const {
-  return {std::move(titulo), std::string(formato_.extension), std::string(formato_.filtro), {}};
+  return {std::move(titulo), std::string(formato_.extension), std::string(formato_.filtro), sugerido_};
+}
+
+void Proyecto::nombrar(const std::string& nombre) {
+  estado_.rutaArchivo = nombre;
+  ventana_.Caption = std::string(formato_.titulo) + " - " + nombre;
+  estado_.esNuevo = false;
 }
 
 void Proyecto::adoptar(const std::string& ruta) {
   std::error_code ec;
   const fs::path completa = fs::absolute(comoRuta(ruta), ec);
   propio_ = ec ? ruta : comoTexto(completa);
-  estado_.rutaArchivo = tituloDeArchivo(ruta);
-  ventana_.Caption = std::string(formato_.titulo) + " - " + estado_.rutaArchivo;
-  estado_.esNuevo = false;
+  sugerido_.clear();
+  nombrar(tituloDeArchivo(ruta));
+}
+
+void Proyecto::olvidarArchivo() {
+  propio_.clear();
+  sugerido_.clear();
 }
 
 void Proyecto::Abrir_Archivo(const std::function<void()>& trasLeer) {
@@ -72,27 +109,85 @@ void Proyecto::Abrir_Archivo(const std::function<void()>& trasLeer) {
 }
 
 void Proyecto::abrir(const std::string& ruta, const std::function<void()>& trasLeer) {
+  alLeer(
+      ruta, [&] { adoptar(ruta); }, trasLeer);
+}
+
+void Proyecto::abrirCopia(const std::string& ruta, const std::function<void()>& trasLeer) {
+  const auto adoptarCopia = [&] {
+    propio_.clear();
+    nombrar(tituloDeArchivo(ruta));
+    sugerido_ = "Copia de " + tituloDeArchivo(ruta);
+  };
+  alLeer(ruta, adoptarCopia, trasLeer);
+}
+
+void Proyecto::leer(const std::string& ruta) {
+  const std::vector<std::string> lineas = leerLineas(comoRuta(ruta), formato_.lineas.size());
+  disparar(alSustituir);
+  for (std::size_t i = 0; i < lineas.size(); ++i) ponerLinea(formato_.lineas[i], lineas[i]);
+  if (lineas.size() < formato_.lineas.size())
+    throw FalloArchivo("El archivo " + tituloDeArchivo(ruta) + " está incompleto: termina en la línea " +
+                       texto(static_cast<int>(lineas.size())) + " de " +
+                       texto(static_cast<int>(formato_.lineas.size())));
+}
+
+void Proyecto::alLeer(const std::string& ruta, const std::function<void()>& adoptar,
+                      const std::function<void()>& trasLeer) {
+  bool adoptado = false;
   try {
-    const std::vector<std::string> lineas = leerLineas(comoRuta(ruta), formato_.lineas.size());
-    for (std::size_t i = 0; i < lineas.size(); ++i) ponerLinea(formato_.lineas[i], lineas[i]);
-    if (lineas.size() < formato_.lineas.size())
-      throw FalloArchivo("El archivo " + tituloDeArchivo(ruta) + " está incompleto: termina en la línea " +
-                         texto(static_cast<int>(lineas.size())) + " de " +
-                         texto(static_cast<int>(formato_.lineas.size())));
-    adoptar(ruta);
+    leer(ruta);
+    adoptar();
+    adoptado = true;
     trasLeer();
   } catch (const FalloArchivo& fallo) {
     dialogos_.fallo(fallo.what());
   } catch (const FalloAritmetico& fallo) {
     dialogos_.fallo("El archivo " + tituloDeArchivo(ruta) + " tiene un número no válido: " + fallo.what());
   }
+  if (adoptado) disparar(alCoincidir);
 }
 
-void Proyecto::escribir(const std::string& ruta) {
-  std::vector<std::string> lineas;
-  for (const std::string_view linea : formato_.lineas) lineas.push_back(textoDeLinea(linea));
-  escribirLineas(comoRuta(ruta), lineas);
+Trabajo Proyecto::trabajo() const {
+  Trabajo t;
+  for (const std::string_view linea : formato_.lineas) t.contenido.lineas.push_back(textoDeLinea(linea));
+  const auto esLinea = [&](const std::string& nombre) {
+    return std::find(formato_.lineas.begin(), formato_.lineas.end(), nombre) != formato_.lineas.end();
+  };
+  for (const Ventana* v : {&ventana_, &parametros_})
+    for (Control* control : v->controles()) {
+      const std::string nombre = (v == &ventana_ ? "" : v->nombre() + ".") + control->nombre();
+      if (esLinea(nombre)) continue;
+      if (const Entrada e = entradaDe(*control); e.poner) t.contenido.otros[nombre] = e.valor;
+    }
+  t.archivo = propio_;
+  const std::string& titulo = ventana_.Caption;
+  const std::size_t sobra = formato_.titulo.size() + std::string_view(" - ").size();
+  if (titulo.size() > sobra) t.nombre = titulo.substr(sobra);
+  return t;
 }
+
+void Proyecto::reponer(const Trabajo& trabajo, const std::function<void()>& trasLeer) {
+  const std::vector<std::string>& lineas = trabajo.contenido.lineas;
+  for (std::size_t i = 0; i < std::min(lineas.size(), formato_.lineas.size()); ++i)
+    ponerLinea(formato_.lineas[i], lineas[i]);
+  const auto ponerOtros = [&](bool menus) {
+    for (const auto& [nombre, valor] : trabajo.contenido.otros) {
+      const std::size_t punto = nombre.find('.');
+      Control* c = punto == std::string::npos ? ventana_.buscar(nombre) : parametros_.buscar(nombre.substr(punto + 1));
+      if (c == nullptr || (dynamic_cast<Menu*>(c) != nullptr) != menus) continue;
+      if (const Entrada e = entradaDe(*c); e.poner) e.poner(valor);
+    }
+  };
+  ponerOtros(false);
+  propio_ = trabajo.archivo;
+  sugerido_ = propio_.empty() ? trabajo.nombre : std::string();
+  if (!trabajo.nombre.empty()) nombrar(trabajo.nombre);
+  trasLeer();
+  ponerOtros(true);
+}
+
+void Proyecto::escribir(const std::string& ruta) { escribirLineas(comoRuta(ruta), trabajo().contenido.lineas); }
 
 void Proyecto::Guardar_Archivo() {
   // the record keeps one file name for the three structures: a file that another one opened or saved is never
@@ -103,6 +198,7 @@ void Proyecto::Guardar_Archivo() {
   }
   try {
     escribir(propio_);
+    disparar(alCoincidir);
   } catch (const FalloArchivo& fallo) {
     dialogos_.fallo(fallo.what());
   }
@@ -119,6 +215,7 @@ void Proyecto::Guardarcomo_Archivo() {
   try {
     escribir(*ruta);
     adoptar(*ruta);
+    disparar(alCoincidir);
   } catch (const FalloArchivo& fallo) {
     dialogos_.fallo(fallo.what());
   }

@@ -25,6 +25,7 @@
 
 #include "qt/cadena.h"
 #include "qt/vista_lienzo.h"
+#include "qt/vista_manual.h"
 #include "qt/vista_memoria.h"
 
 namespace calvento {
@@ -68,7 +69,7 @@ bool tienePartesPropias(const QWidget* w) {
          qobject_cast<const QAbstractScrollArea*>(w) || qobject_cast<const QComboBox*>(w) ||
          qobject_cast<const QLineEdit*>(w) || qobject_cast<const QAbstractSpinBox*>(w) ||
          qobject_cast<const QMenu*>(w) || qobject_cast<const QMenuBar*>(w) || qobject_cast<const QStatusBar*>(w) ||
-         dynamic_cast<const VistaMemoria*>(w) != nullptr;
+         dynamic_cast<const VistaMemoria*>(w) != nullptr || dynamic_cast<const VistaManual*>(w) != nullptr;
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include "aplicacion/form_manual.h"
 #include "memoria/form_memoria.h"
 #include "plataforma/control.h"
 #include "plataforma/lienzo.h"
@@ -72,6 +73,7 @@ class Enlace : public QObject {
   Refresco unirTabla(Grid& tabla);
   Refresco unirLienzo(PictureBox& caja);
   Refresco unirMemoria(VisorMemoria& visor);
+  Refresco unirManual(VisorManual& visor);
   Refresco unirGrupo(Control& grupo);
 
   /// The properties that all controls have, for a widget.

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <utility>
 
 #include <QAction>
 #include <QCheckBox>
@@ -26,6 +27,7 @@
 #include "qt/numero_tecleado.h"
 #include "qt/resultado_accesible.h"
 #include "qt/vista_lienzo.h"
+#include "qt/vista_manual.h"
 #include "qt/vista_memoria.h"
 #include "qt/vista_rejilla.h"
 
@@ -107,6 +109,7 @@ Enlace::Refresco Enlace::unir(Control& control) {
   if (auto* c = dynamic_cast<Grid*>(&control)) return unirTabla(*c);
   if (auto* c = dynamic_cast<PictureBox*>(&control)) return unirLienzo(*c);
   if (auto* c = dynamic_cast<VisorMemoria*>(&control)) return unirMemoria(*c);
+  if (auto* c = dynamic_cast<VisorManual*>(&control)) return unirManual(*c);
   return unirGrupo(control);  // frames and decorations
 }
 
@@ -371,6 +374,13 @@ Enlace::Refresco Enlace::unirMemoria(VisorMemoria& visor) {
     comun();
     vista->refrescar();
   };
+}
+
+Enlace::Refresco Enlace::unirManual(VisorManual& visor) {
+  auto* vista = dynamic_cast<VistaManual*>(widgetDe<QWidget>(visor));
+  if (vista == nullptr) return {};
+  vista->mostrar(visor);
+  return [&visor, vista] { vista->abrirEn(aQt(std::exchange(visor.capitulo, {}))); };
 }
 
 Enlace::Refresco Enlace::unirGrupo(Control& grupo) {

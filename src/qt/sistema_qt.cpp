@@ -9,13 +9,16 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QPointer>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QScreen>
 #include <QTimer>
 
+#include "estructura/ventana_estructura.h"
 #include "qt/cadena.h"
+#include "qt/ejemplos.h"
 #include "qt/impresion.h"
 #include "qt/menu_ventana.h"
 #include "qt/teclado.h"
@@ -98,7 +101,17 @@ SistemaQt::Abierta& SistemaQt::crear(Ventana& ventana) {
   if (principal_) principal_->installEventFilter(this);  // ahead of the menu bar of the new child
   Abierta& abierta = abiertas_[ventana.nombre()] = Abierta{&ventana, &v, marco, enlace, ultimo_};
   unirTeclas(abierta);
+  if (auto* datos = dynamic_cast<VentanaEstructura*>(&ventana)) unirArchivo(*datos, v);
   return abierta;
+}
+
+/// What the desktop adds to the file menu of a data window, behind its own entries.
+void SistemaQt::unirArchivo(VentanaEstructura& datos, QMainWindow& vista) {
+  auto* menu = vista.findChild<QMenu*>(QStringLiteral("mnarchivo"));
+  menu->addSeparator();
+  anadirEjemplos(*menu, datos.formato(), [this, &datos](const QString& archivo) {
+    protegido([this](const std::string& texto) { dialogos_.fallo(texto); }, [&] { datos.abrirCopia(deQt(archivo)); });
+  });
 }
 
 void SistemaQt::colocarPrincipal(QMainWindow& vista) {

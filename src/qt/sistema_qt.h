@@ -23,6 +23,8 @@ class QMdiSubWindow;
 
 namespace calvento {
 
+class VentanaEstructura;
+
 /// The windows of the program on the desktop: the main window with its area for documents, the working windows in it,
 /// the About box above it. The widgets of a window are made when it is first shown and go when it is unloaded.
 class SistemaQt : public QObject, public SistemaVentanas {
@@ -34,6 +36,9 @@ class SistemaQt : public QObject, public SistemaVentanas {
   void responder(Navegador& navegador) { navegador_ = &navegador; }
   /// Takes all widgets away; to be called before the windows die.
   void cerrarTodo();
+
+  /// F1 was pressed in that window.
+  std::function<void(std::string_view ventana)> alPedirAyuda;
 
   /// The widgets of a window that has been shown, or nullptr.
   QMainWindow* vista(std::string_view nombre) const;
@@ -67,10 +72,12 @@ class SistemaQt : public QObject, public SistemaVentanas {
   };
   Abierta* buscar(const Ventana& ventana);
   Abierta& crear(Ventana& ventana);
+  void unirArchivo(VentanaEstructura& datos, QMainWindow& vista);
   void colocarPrincipal(QMainWindow& vista);
   QWidget* colocarHija(QMainWindow& vista);
   void colocarSuelta(QMainWindow& vista);
   void unirTeclas(const Abierta& abierta);
+  void pedirAyuda(const QWidget& marco);
   void traerAlFrente(QWidget* marco);
   void traerDespues(QWidget* marco);
   QMdiSubWindow* anterior(const QWidget* marco) const;

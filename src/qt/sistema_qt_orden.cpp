@@ -93,14 +93,28 @@ void SistemaQt::quitar(QWidget& marco) {
   if (principal_ && marco.isWindow()) principal_->activateWindow();
 }
 
+/// The manual stands in the area, which a window above it leaves to it.
+void SistemaQt::pedirAyuda(const QWidget& marco) {
+  const auto es = [&](const auto& par) { return par.second.marco == &marco; };
+  const auto it = std::find_if(abiertas_.begin(), abiertas_.end(), es);
+  if (it == abiertas_.end() || !alPedirAyuda) return;
+  protegido([this](const std::string& texto) { dialogos_.fallo(texto); }, [&] { alPedirAyuda(it->first); });
+}
+
 /// Esc closes what can be opened again as it was; what a window prints and copies by its buttons it does by keys.
 void SistemaQt::unirTeclas(const Abierta& abierta) {
   QWidget& marco = *abierta.marco;
   if (&marco == principal_) {
     auto* menu = new QShortcut(Qt::Key_F10, &marco);
     connect(menu, &QShortcut::activated, this, [this] { irAlMenu(*principal_); });
+    auto* ayuda = new QShortcut(QKeySequence::HelpContents, &marco);
+    connect(ayuda, &QShortcut::activated, this, [this] {
+      const QMdiSubWindow* activa = area_->currentSubWindow();
+      pedirAyuda(activa != nullptr && !activa->isHidden() ? static_cast<const QWidget&>(*activa) : *principal_);
+    });
     return;
   }
+  if (marco.isWindow()) unirTecla(marco, QKeySequence::HelpContents, [this, &marco] { pedirAyuda(marco); });
   Ventana* ventana = abierta.ventana;
   if (dynamic_cast<VentanaDatos*>(ventana) != nullptr) return;  // its menu has the keys, and Esc takes no design away
   unirTecla(marco, Qt::Key_Escape, [&marco] {

@@ -30,6 +30,7 @@
 #include "ui_Form6.h"
 #include "ui_Form7.h"
 #include "ui_Form8.h"
+#include "ui_FormManual.h"
 #include "ui_FormMemoria.h"
 #include "ui_MarcoExportar.h"
 #include "ui_frmAbout.h"
@@ -80,6 +81,7 @@ constexpr std::array ventanas_ui = {
     VentanaUi{"MemoriaForm10", Puesto::hija, construir<Ui::FormMemoria>},
     VentanaUi{"MemoriaForm1", Puesto::hija, construir<Ui::FormMemoria>},
     VentanaUi{"MemoriaForm16", Puesto::hija, construir<Ui::FormMemoria>},
+    VentanaUi{"FormManual", Puesto::hija, construir<Ui::FormManual>},
 };
 
 }  // namespace

@@ -1,13 +1,14 @@
 #include "qt/vista_memoria.h"
 
-#include <QAction>
+#include <functional>
+#include <utility>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
@@ -18,13 +19,13 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QSettings>
-#include <QShortcut>
 #include <QSplitter>
 #include <QTextDocumentFragment>
 #include <QToolBar>
 #include <QVBoxLayout>
 
 #include "memoria/html.h"
+#include "qt/barra.h"
 #include "qt/cadena.h"
 #include "qt/escribir_memoria.h"
 #include "qt/figura_memoria.h"
@@ -50,14 +51,10 @@ void decir(QWidget* dueno, const QString& texto) {
 
 VistaMemoria::VistaMemoria(QWidget* padre) : QWidget(padre) {
   auto* barra = new QToolBar(this);
-  const auto boton = [&](const char* icono, const QString& texto, const QKeySequence& tecla, auto accion) {
-    QAction* a =
-        barra->addAction(QIcon(QStringLiteral(":/iconos/%1.pic").arg(QLatin1String(icono))), texto, this, accion);
-    a->setShortcut(tecla);
-    a->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    a->setToolTip(texto + QStringLiteral(" (") + tecla.toString(QKeySequence::NativeText) + u')');
-    addAction(a);
-    return a;
+  const auto boton = [&](const char* icono, const QString& texto, const QKeySequence& tecla,
+                         std::function<void()> accion) {
+    botonDeBarra(*barra, *this, QIcon(QStringLiteral(":/iconos/%1.pic").arg(QLatin1String(icono))), texto, tecla,
+                 std::move(accion));
   };
   barra->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   boton("guardar", QStringLiteral("Guardar como..."), QKeySequence::Save, [this] { guardarComo(); });
@@ -71,28 +68,8 @@ VistaMemoria::VistaMemoria(QWidget* padre) : QWidget(padre) {
   boton("ver_todo", QStringLiteral("Ancho de página"), QKeySequence(Qt::CTRL | Qt::Key_0),
         [this] { paginas_->alAncho(); });
   barra->addSeparator();
-  busqueda_ = new QLineEdit(barra);
-  busqueda_->setPlaceholderText(QStringLiteral("Buscar"));
-  busqueda_->setAccessibleName(QStringLiteral("Buscar en la memoria"));
-  busqueda_->setClearButtonEnabled(true);
-  busqueda_->setMaximumWidth(220);
-  barra->addWidget(busqueda_);
-  boton("siguiente", QStringLiteral("Siguiente"), QKeySequence::FindNext, [this] {
-    buscar(false);
-  })->setIconText(QString());
-  boton("anterior", QStringLiteral("Anterior"), QKeySequence::FindPrevious, [this] {
-    buscar(true);
-  })->setIconText(QString());
-  aviso_ = new QLabel(barra);
-  barra->addWidget(aviso_);
-  connect(busqueda_, &QLineEdit::returnPressed, this, [this] { buscar(false); });
-  connect(busqueda_, &QLineEdit::textChanged, this, [this] { aviso_->clear(); });
-  auto* atajo = new QShortcut(QKeySequence::Find, this);
-  atajo->setContext(Qt::WidgetWithChildrenShortcut);
-  connect(atajo, &QShortcut::activated, busqueda_, [this] {
-    busqueda_->setFocus(Qt::ShortcutFocusReason);
-    busqueda_->selectAll();
-  });
+  new Busqueda(*barra, *this, QStringLiteral("Buscar en la memoria"),
+               [this](const QString& texto, bool haciaAtras) { return buscar(texto, haciaAtras); });
 
   capitulos_ = new QListWidget(this);
   capitulos_->setAccessibleName(QStringLiteral("Capítulos"));
@@ -197,12 +174,12 @@ void VistaMemoria::alPasarPagina(int pagina) {
   capitulos_->setCurrentRow(pagina == 0 ? 0 : fila);
 }
 
-void VistaMemoria::buscar(bool haciaAtras) {
-  if (!maqueta_) return;
-  const int pagina = maqueta_->buscar(busqueda_->text(), haciaAtras);
-  aviso_->setText(pagina < 0 && !busqueda_->text().isEmpty() ? QStringLiteral(" No está") : QString());
+bool VistaMemoria::buscar(const QString& texto, bool haciaAtras) {
+  if (!maqueta_) return false;
+  const int pagina = maqueta_->buscar(texto, haciaAtras);
   if (pagina >= 0) paginas_->irA(pagina);
   paginas_->viewport()->update();
+  return pagina >= 0;
 }
 
 void VistaMemoria::guardarComo() {

@@ -7,8 +7,6 @@
 
 #include "memoria/form_memoria.h"
 
-class QAction;
-class QLabel;
 class QLineEdit;
 class QListWidget;
 
@@ -38,7 +36,7 @@ class VistaMemoria : public QWidget {
   void guardarPortada();
   void irACapitulo(int fila);
   void alPasarPagina(int pagina);
-  void buscar(bool haciaAtras);
+  bool buscar(const QString& texto, bool haciaAtras);
   void guardarComo();
   void imprimir();
   void copiar();
@@ -47,8 +45,7 @@ class VistaMemoria : public QWidget {
   std::unique_ptr<Documento> documento_;
   std::unique_ptr<MaquetaMemoria> maqueta_;
   QListWidget* capitulos_;
-  QLineEdit *obra_, *ubicacion_, *proyectista_, *revision_, *busqueda_;
-  QLabel* aviso_;
+  QLineEdit *obra_, *ubicacion_, *proyectista_, *revision_;
   PaginasMemoria* paginas_;
 };
 

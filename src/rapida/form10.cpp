@@ -155,11 +155,11 @@ void Form10::nuevo() {
   Frame1.Visible = true;
 }
 
-void Form10::trasLeer() {
+void Form10::trasLeer(bool calcula) {
   estado_.numTramos = enteroCorto(Val(Text17.Text));
   ACTIVARTRAMOS(estado_.numTramos);
-  Command3_Click();
-  tomarTanqueLeido();
+  if (calcula) Command3_Click();
+  tomarTanqueLeido(calcula);
 }
 
 void Form10::antesDeBloques() {

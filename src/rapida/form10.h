@@ -59,7 +59,7 @@ class Form10 : public VentanaTanques, private PantallaRapida {
 
  private:
   bool calcular() override;
-  void trasLeer() override;
+  void trasLeer(bool calcula) override;
   void antesDeBloques() override;
 
   // PantallaRapida
