@@ -2,15 +2,11 @@
 #include <array>
 
 #include "memoria/lista.h"
+#include "poza/tabla_tanques.h"
 
 namespace calvento::lista {
 
 namespace {
-
-std::string_view recortado(std::string_view s) {
-  const auto a = s.find_first_not_of(' ');
-  return a == std::string_view::npos ? std::string_view() : s.substr(a, s.find_last_not_of(' ') + 1 - a);
-}
 
 /// Energy before the fall or at the end of the chute against that of the smaller conjugate depth, with the tenth of the
 /// velocity head that the design loses.
@@ -120,7 +116,7 @@ void tipo(Lista& l, const Diseno& x, const Canal& p) {
   }
   const std::string& cual = x.tanques.texto(elegido, 0);
   const std::string& causa = x.tanques.texto(elegido, 3);
-  l.anadir(factible, recortado(x.tanques.texto(elegido, 2)) == "Factible", elegido, elegido, "tipo",
+  l.anadir(factible, esFactible(x.tanques, elegido), elegido, elegido, "tipo",
            {cual + ": " + causa + ".", cual + " no es factible: " + causa + ". Elija otra fila de la tabla."}, peterka);
 
   struct Intervalo {

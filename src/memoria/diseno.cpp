@@ -45,6 +45,8 @@ void ponerTextos(Ventana& ventana, const TextosVentana& textos) {
       const std::vector<std::string>& entradas = lista->List;
       const auto it = std::find(entradas.begin(), entradas.end(), texto);
       lista->ListIndex = it == entradas.end() ? -1 : static_cast<int>(it - entradas.begin());
+    } else if (auto* menu = dynamic_cast<Menu*>(c); menu != nullptr && menu->conMarca) {
+      if (menu->Checked != (texto == "1")) disparar(menu->Click);
     }
   }
 }

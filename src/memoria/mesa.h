@@ -22,11 +22,16 @@ class NavegadorNulo : public Navegador {
 
 class DialogosNulos : public Dialogos {
  public:
+  /// `respuesta`: to every question, true for yes.
+  explicit DialogosNulos(bool respuesta = true) : respuesta_(respuesta) {}
   void aviso(const std::string&) override {}
   void fallo(const std::string&) override {}
-  bool pregunta(const std::string&) override { return true; }
+  bool pregunta(const std::string&) override { return respuesta_; }
   std::optional<std::string> abrirArchivo(const OpcionesArchivo&) override { return {}; }
   std::optional<std::string> guardarArchivo(const OpcionesArchivo&) override { return {}; }
+
+ private:
+  bool respuesta_;
 };
 
 /// A table on which the report windows of a design can be opened: a record and parameter windows of its own, which they

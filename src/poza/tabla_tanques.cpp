@@ -112,6 +112,8 @@ void SELECCIONARTANQUE(Rejilla& tabla, const DesignState& e, const Form2& parame
   }
 }
 
+bool esFactible(const Rejilla& tabla, int fila) { return tabla.texto(fila, columnaVeredicto) == factible; }
+
 int filaElegida(const DesignState& e) {
   for (int fila = 1; fila < filas; ++fila)
     if (e.tipoTanque == fila) return fila;

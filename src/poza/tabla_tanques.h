@@ -23,6 +23,9 @@ void prepararTablaTanques(Rejilla& tabla);
 void SELECCIONARTANQUE(Rejilla& tabla, const DesignState& estado, const Form2& parametros,
                        const CriterioTanques& criterio);
 
+/// Whether the verdict on that row is that the type suits the flow.
+bool esFactible(const Rejilla& tabla, int fila);
+
 /// The row of the basin type in force, 0 for a type that is none of 1 to 6.
 int filaElegida(const DesignState& estado);
 

@@ -110,6 +110,13 @@ void escribirVerificacion(Rejilla& t, int n, const FilaVerificacion& fila, const
   t.poner(f, columnaVeredicto, fila.Ea > fila.Ep ? "OK" : "--");
 }
 
+int caudalesContenidos(const Rejilla& t) {
+  int n = 0;
+  for (int f = t.filasTitulo(); f < t.filas() && t.columnas() > columnaVeredicto; ++f)
+    n += t.texto(f, columnaVeredicto) == "OK";
+  return n;
+}
+
 std::string VEREDICTOPOZA(const Rejilla& t, const EstiloVerificacion& estilo) {
   std::string lista;
   for (int f = filasTitulo; f < t.filas(); ++f)

@@ -55,6 +55,9 @@ void escribirVerificacion(Rejilla& tabla, int n, const FilaVerificacion& fila, c
 /// The verdict on the whole design, from the table.
 std::string VEREDICTOPOZA(const Rejilla& tabla, const EstiloVerificacion& estilo);
 
+/// With how many of the discharges the basin holds the jump.
+int caudalesContenidos(const Rejilla& tabla);
+
 /// The whole table of the inclined drop. A failure passes to the caller.
 void verificarInclinada(Rejilla& tabla, const DesignState& estado, const Form2& parametros, Dialogos& dialogos);
 /// That of the chute, whose depths at its end are marched down for each discharge. Each statement that fails is passed
