@@ -46,7 +46,7 @@ TextoCsv& TextoCsv::valor(std::string_view celda) {
 }
 
 void TextoCsv::finDeLinea() {
-  contenido_ += "\r\n";
+  contenido_ += finDeLinea_;
   primera_ = true;
 }
 

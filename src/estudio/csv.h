@@ -10,7 +10,7 @@ namespace calvento {
 class TextoCsv {
  public:
   /// `coma`: decimal comma and semicolons between cells, instead of point and commas.
-  explicit TextoCsv(bool coma) : coma_(coma) {}
+  explicit TextoCsv(bool coma, std::string_view finDeLinea = "\r\n") : finDeLinea_(finDeLinea), coma_(coma) {}
 
   TextoCsv& texto(std::string_view celda);
   /// With the seven digits of the record; empty for what is no number.
@@ -26,6 +26,7 @@ class TextoCsv {
   void separar();
 
   std::string contenido_;
+  std::string_view finDeLinea_;
   bool coma_;
   bool primera_ = true;
 };

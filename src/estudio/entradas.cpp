@@ -116,8 +116,14 @@ std::span<const Entrada> entradas(const Ficha& ficha) {
 
 const Entrada* entradaDe(const Ficha& ficha, std::string_view nombre) {
   const auto todas = entradas(ficha);
-  const auto it = std::ranges::find(todas, nombre, &Entrada::nombre);
+  const auto it = std::ranges::find_if(todas, [&](const Entrada& e) {
+    return e.nombre == nombre || (e.esNumero() && e.ventana + "." + e.control == nombre);
+  });
   return it == todas.end() ? nullptr : &*it;
+}
+
+bool Entrada::admite(std::string_view valor) const {
+  return esNumero() || std::ranges::find(opciones, valor, &Opcion::valor) != opciones.end();
 }
 
 std::string valorDe(const Diseno& d, const Entrada& e) {

@@ -31,11 +31,13 @@ struct Entrada {
   std::vector<Opcion> opciones;  ///< empty: a number is typed
 
   bool esNumero() const { return opciones.empty(); }
+  /// Whether an option has that value; a field takes any text.
+  bool admite(std::string_view valor) const;
 };
 
 /// All that can be put into that structure, data window first. It lives as long as the program.
 std::span<const Entrada> entradas(const Ficha& ficha);
-/// The one of that name; nullptr where the structure has none.
+/// The one of that name, or of that window and control ("Form10.Text5"); nullptr where the structure has none.
 const Entrada* entradaDe(const Ficha& ficha, std::string_view nombre);
 
 /// What the design has there: the text of the field, the value of the option.

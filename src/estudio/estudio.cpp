@@ -23,12 +23,12 @@ Estudio::Estudio(const Diseno& base, std::vector<Variacion> variaciones, bool co
   }
 }
 
-std::vector<Puesto> Estudio::puestos(std::size_t fila) const {
-  std::vector<Puesto> todos(variaciones_.size());
-  for (std::size_t i = variaciones_.size(); i-- > 0;) {
-    const Variacion& v = variaciones_[i];
-    todos[i] = {v.entrada, v.valores[fila % v.valores.size()]};
-    fila /= v.valores.size();
+std::vector<Puesto> combinacion(const std::vector<Variacion>& variaciones, std::size_t cual) {
+  std::vector<Puesto> todos(variaciones.size());
+  for (std::size_t i = variaciones.size(); i-- > 0;) {
+    const Variacion& v = variaciones[i];
+    todos[i] = {v.entrada, v.valores[cual % v.valores.size()]};
+    cual /= v.valores.size();
   }
   return todos;
 }

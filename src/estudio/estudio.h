@@ -25,6 +25,9 @@ struct Variacion {
   std::vector<std::string> valores;
 };
 
+/// The values of one of all combinations; the last input varies fastest.
+std::vector<Puesto> combinacion(const std::vector<Variacion>& variaciones, std::size_t cual);
+
 class Estudio {
  public:
   /// Nothing is calculated yet. Fails with FalloEstudio where nothing varies, an input varies twice, one has no value,
@@ -39,7 +42,7 @@ class Estudio {
   const std::vector<Fila>& filas() const { return filas_; }
   bool terminado() const { return filas_.size() == total_; }
   /// The values of that combination, calculated or not.
-  std::vector<Puesto> puestos(std::size_t fila) const;
+  std::vector<Puesto> puestos(std::size_t fila) const { return combinacion(variaciones_, fila); }
 
   /// Calculates one design more, and others until the time is over; false once all are there. Between two calls the
   /// study may be shown or left.

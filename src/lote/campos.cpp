@@ -12,7 +12,7 @@ namespace calvento::lote {
 namespace {
 
 [[noreturn]] void rechazar(const Asignacion& a, const std::string& motivo) {
-  throw OpcionErronea("--campo " + a.ventana + "." + a.control + "=" + a.texto + ": " + motivo);
+  throw OpcionErronea("--campo " + a.nombre() + "=" + a.texto + ": " + motivo);
 }
 
 bool comoMarca(const Asignacion& a) {
@@ -70,12 +70,37 @@ void poner(Ventana& ventana, const Asignacion& a) {
   }
 }
 
+namespace {
+
+/// A name must be one of a structure that is there, and one that is chosen has its values.
+void comprobarNombre(const Asignacion& a, const Opciones& opciones) {
+  bool hay = false, usado = false;
+  for (const Estructura& e : estructuras()) {
+    const Entrada* const entrada = entradaDe(e.ficha(), a.control);
+    hay = hay || entrada != nullptr;
+    const auto deEsta = [&](const std::string& archivo) { return estructuraDe(archivo) == &e; };
+    if (entrada == nullptr || std::none_of(opciones.archivos.begin(), opciones.archivos.end(), deEsta)) continue;
+    usado = true;
+    std::string todas;
+    for (const Opcion& o : entrada->opciones) todas += (todas.empty() ? "" : ", ") + o.valor + " " + o.nombre;
+    if (!entrada->admite(a.texto)) rechazar(a, "se espera uno de: " + todas);
+  }
+  if (!hay) rechazar(a, "no hay tal nombre: se espera uno de --campos, o VENTANA.CONTROL=TEXTO");
+  if (!usado) rechazar(a, "ninguno de los archivos tiene ese campo");
+}
+
+}  // namespace
+
 void comprobar(const Opciones& opciones) {
   if (opciones.campos.empty()) return;
   DialogosGrabados dialogos(opciones.responder);
   SinPantalla pantalla;
   Aplicacion aplicacion(dialogos, pantalla);
   for (const Asignacion& a : opciones.campos) {
+    if (a.conNombre()) {
+      comprobarNombre(a, opciones);
+      continue;
+    }
     const bool deDatos = std::any_of(estructuras().begin(), estructuras().end(),
                                      [&](const Estructura& e) { return e.formato->ventana == a.ventana; });
     Ventana* const ventana = deDatos || esDeParametros(a.ventana) ? aplicacion.cargar(a.ventana) : nullptr;

@@ -106,6 +106,21 @@ void escribirNotas(EscritorJson& j, const std::vector<std::string>& notas) {
   j.cerrarLista();
 }
 
+void escribirPuestos(EscritorJson& j, const std::vector<ValorPuesto>& puestos) {
+  if (puestos.empty()) return;
+  j.clave("puestos");
+  j.abrirLista();
+  for (const ValorPuesto& p : puestos) {
+    j.abrirObjeto();
+    j.clave("nombre");
+    j.texto(p.nombre);
+    j.clave("texto");
+    j.texto(p.texto);
+    j.cerrarObjeto();
+  }
+  j.cerrarLista();
+}
+
 void escribirEstado(EscritorJson& j, const DesignState& estado) {
   j.clave("estado");
   j.abrirObjeto();
@@ -280,6 +295,7 @@ std::string comoJson(const Sesion& s) {
   EscritorJson j;
   j.abrirObjeto();
   escribirCabecera(j, s.archivo(), s.estructura(), s.calculado());
+  escribirPuestos(j, s.puestos());
   escribirMensajes(j, s.mensajes());
   escribirNotas(j, s.notas());
   if (s.ventana() != nullptr) {

@@ -3,11 +3,13 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
+#include <limits>
 
 #include "comun/version.h"
 #include "lote/estructuras.h"
 #include "lote/pagina_man.h"
 #include "lote/salidas.h"
+#include "lote/trabajos.h"
 
 namespace calvento::lote {
 
@@ -15,7 +17,7 @@ namespace {
 
 constexpr const char* descripcion =
     "Calcula proyectos de rápidas y caídas sin abrir ventanas y muestra lo que las ventanas mostrarían.\n"
-    "Sin --json escribe un resumen de cada proyecto: datos, resultados, tipos de tanque y mensajes.";
+    "Sin --json ni --csv escribe un resumen de cada proyecto: datos, resultados, tipos de tanque y mensajes.";
 
 constexpr const char* pie =
     "\nEstado de salida: 0, todos los proyectos se calcularon hasta el final; 1, alguno no; 2, opción errónea o\n"
@@ -23,23 +25,39 @@ constexpr const char* pie =
     "\nEjemplos:\n"
     "  calvento-lote canal.cvr\n"
     "  calvento-lote --json *.cvr > resultados.jsonl\n"
-    "  calvento-lote --campo Form2.Text9=15 --campo Form10.Text26=5 canal.cvr\n";
+    "  calvento-lote --campo Form2.Text9=15 --campo Form10.Text26=5 canal.cvr\n"
+    "  calvento-lote --csv --variar Q=1:5:0.5 --variar bRapida=1:2:0.1 canal.cvr > estudio.csv\n";
 
 Asignacion comoAsignacion(const std::string& texto) {
   const std::size_t igual = texto.find('=');
-  const std::size_t punto = texto.find('.');
-  if (igual == std::string::npos || punto == std::string::npos || punto == 0 || punto + 1 >= igual)
-    throw OpcionErronea("--campo " + texto + ": se espera VENTANA.CONTROL=TEXTO");
-  return {texto.substr(0, punto), texto.substr(punto + 1, igual - punto - 1), texto.substr(igual + 1)};
+  const std::string lugar = texto.substr(0, igual);
+  const std::size_t punto = lugar.find('.');
+  const bool conNombre = punto == std::string::npos;
+  if (igual == std::string::npos || lugar.empty() || punto == 0 || (!conNombre && punto + 1 == igual))
+    throw OpcionErronea("--campo " + texto + ": se espera VENTANA.CONTROL=TEXTO o NOMBRE=TEXTO");
+  return {conNombre ? "" : lugar.substr(0, punto), conNombre ? lugar : lugar.substr(punto + 1),
+          texto.substr(igual + 1)};
 }
 
-int comoVeces(const std::string& texto) {
+VariacionPedida comoVariacion(const std::string& texto) {
+  const std::size_t igual = texto.find('=');
+  const std::size_t uno = igual == std::string::npos ? igual : texto.find(':', igual);
+  const std::size_t dos = uno == std::string::npos ? uno : texto.find(':', uno + 1);
+  if (igual == 0 || dos == std::string::npos || texto.find(':', dos + 1) != std::string::npos)
+    throw OpcionErronea("--variar " + texto + ": se espera NOMBRE=DESDE:HASTA:PASO");
+  return {texto.substr(0, igual),
+          {texto.substr(igual + 1, uno - igual - 1), texto.substr(uno + 1, dos - uno - 1), texto.substr(dos + 1)}};
+}
+
+int comoEntero(const char* opcion, const std::string& texto, int desde, int hasta) {
   int n = 0;
   const char* fin = texto.data() + texto.size();
   const auto r = std::from_chars(texto.data(), fin, n);
-  if (r.ec != std::errc() || r.ptr != fin || n < 0)
-    throw OpcionErronea("--veces " + texto + ": se espera un número entero, 0 o mayor");
-  return n;
+  if (r.ec == std::errc() && r.ptr == fin && n >= desde && n <= hasta) return n;
+  const bool conTope = hasta < std::numeric_limits<int>::max();
+  throw OpcionErronea(
+      std::string(opcion) + " " + texto + ": se espera un número entero, " +
+      (conTope ? "de " + std::to_string(desde) + " a " + std::to_string(hasta) : std::to_string(desde) + " o mayor"));
 }
 
 bool comoRespuesta(const std::string& texto) {
@@ -80,6 +98,8 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
   const std::string nombreYVersion = "calvento-lote " + version();
   Opciones o;
   std::vector<std::string> campos;
+  std::vector<std::string> variaciones;
+  std::string hilos = "1";
   std::string veces = "0";
   std::string responder = "si";
 
@@ -99,16 +119,27 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
       ->required()
       ->type_name("");
   programa.add_flag("--json", o.json, "Un objeto JSON por proyecto, cada uno en una línea");
-  programa
-      .add_option("--campo", campos,
-                  "Pone TEXTO en un campo; se puede repetir. Los campos de Form2 y\n"
-                  "Form25 se ponen antes de abrir el archivo; los de la ventana de\n"
-                  "datos después, y entonces se calcula otra vez. Casillas, opciones\n"
-                  "y marcas de menú: 1 o 0. Form10.Grid1=3 elige la fila 3")
-      ->type_name("VENTANA.CONTROL=TEXTO")
-      ->expected(1)
-      ->allow_extra_args(false)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  programa.add_flag("--csv", o.csv, "Una tabla CSV: una línea por diseño, con sus títulos en la primera");
+  const auto repetible = [](CLI::Option* opcion, const char* valor) {
+    opcion->type_name(valor)->expected(1)->allow_extra_args(false)->multi_option_policy(
+        CLI::MultiOptionPolicy::TakeAll);
+  };
+  repetible(programa.add_option("--campo", campos,
+                                "Pone TEXTO en un campo; se puede repetir. En lugar de ventana y\n"
+                                "control vale un nombre de --campos: Q=3.2. Los campos de Form2 y\n"
+                                "Form25 se ponen antes de abrir el archivo; los de la ventana de\n"
+                                "datos y los nombres después, y entonces se calcula otra vez.\n"
+                                "Casillas, opciones y marcas de menú: 1 o 0. Form10.Grid1=3 elige\n"
+                                "la fila 3"),
+            "VENTANA.CONTROL=TEXTO");
+  programa.add_flag_callback(
+      "--campos", [] { throw CLI::CallForVersion(listaDeCampos(), 0); },
+      "Muestra los nombres de los campos, con su ventana, rótulo y unidad,\ny termina");
+  repetible(programa.add_option("--variar", variaciones,
+                                "Calcula cada proyecto con cada uno de los valores; NOMBRE como en\n"
+                                "--campos. Si se repite, con todas las combinaciones"),
+            "NOMBRE=DESDE:HASTA:PASO");
+  programa.add_option("--hilos", hilos, "Calcula N diseños a la vez; la salida es la misma")->type_name("N");
   programa.add_option("--veces", veces, "Calcula N veces más al final")->type_name("N");
   programa.add_option("--responder", responder, "Respuesta a toda pregunta; si, mientras no se diga otra cosa")
       ->type_name("si|no");
@@ -145,8 +176,8 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
     return Informacion{programa.help()};
   } catch (const CLI::CallForAllHelp&) {
     return Informacion{paginaMan(programa)};
-  } catch (const CLI::CallForVersion&) {
-    return Informacion{nombreYVersion + "\n"};
+  } catch (const CLI::CallForVersion& pedido) {  // or the list of fields, whose lines are whole
+    return Informacion{pedido.what() + std::string(pedido.what() == nombreYVersion ? "\n" : "")};
   } catch (const CLI::ParseError& error) {
     throw OpcionErronea(enEspanol(error, programa));
   }
@@ -156,7 +187,12 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
         dada != nullptr && *dada && dada->as<std::string>().empty())
       throw OpcionErronea(std::string(opcion) + ": falta el nombre");
   for (const std::string& c : campos) o.campos.push_back(comoAsignacion(c));
-  o.veces = comoVeces(veces);
+  for (const std::string& v : variaciones) o.variaciones.push_back(comoVariacion(v));
+  if (o.csv && o.json) throw OpcionErronea("--csv y --json no van juntas");
+  if (!o.variaciones.empty() && o.escribeArchivos())
+    throw OpcionErronea("--variar no va con --dibujo, --dxf ni --memoria: daría un archivo para muchos diseños");
+  o.veces = comoEntero("--veces", veces, 0, std::numeric_limits<int>::max());
+  o.hilos = comoEntero("--hilos", hilos, 1, 256);
   o.responder = comoRespuesta(responder);
   comprobarSalidas(o);
   return o;

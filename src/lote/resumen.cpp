@@ -19,11 +19,6 @@ std::size_t ancho(std::string_view s) {
       std::count_if(s.begin(), s.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
-std::string alineado(std::string_view s, std::size_t columnas) {
-  const std::size_t a = ancho(s);
-  return std::string(s) + std::string(a < columnas ? columnas - a : 0, ' ');
-}
-
 std::string pieza(std::string_view simbolo, std::string_view valor, std::string_view unidad) {
   std::string s;
   if (!simbolo.empty()) s = std::string(simbolo) + " = ";
@@ -37,6 +32,12 @@ std::string linea(std::string_view lugar, const std::vector<std::string>& piezas
   std::string s = "  " + alineado(lugar, columnaValores - 2);
   for (std::size_t i = 0; i < piezas.size(); ++i) s += (i == 0 ? "" : "   ") + piezas[i];
   return s + "\n";
+}
+
+std::string puestos(const Sesion& sesion) {
+  std::vector<std::string> piezas;
+  for (const ValorPuesto& p : sesion.puestos()) piezas.push_back(pieza(p.nombre, p.texto, p.unidad));
+  return piezas.empty() ? std::string() : linea("Puesto", piezas);
 }
 
 std::string datos(const Sesion& sesion) {
@@ -121,11 +122,13 @@ std::vector<std::string> estabilidad(const Ventana& reporte) {
   return piezas;
 }
 
+bool esDePoza(const ReporteAbierto& r) { return r.nombre == "Form13" || r.nombre == "Form7" || r.nombre == "Form26"; }
+
 std::string verificaciones(const Sesion& sesion) {
   std::string s;
   for (const ReporteAbierto& r : sesion.reportes()) {
     const bool deEstabilidad = r.nombre == "Form6";
-    if (!deEstabilidad && r.nombre != "Form13" && r.nombre != "Form7" && r.nombre != "Form26") continue;
+    if (!deEstabilidad && !esDePoza(r)) continue;
     const char* rotulo = deEstabilidad ? "Flujo en la rápida" : "Poza";
     if (r.ventana == nullptr)
       s += linea(rotulo, {"no se pudo verificar: " + visible(r.fallo)});
@@ -170,6 +173,21 @@ std::string mensajes(const Sesion& sesion) {
 
 }  // namespace
 
+std::string alineado(std::string_view s, std::size_t columnas) {
+  const std::size_t a = ancho(s);
+  return std::string(s) + std::string(a < columnas ? columnas - a : 0, ' ');
+}
+
+std::string veredictoPoza(const Sesion& sesion) {
+  for (const ReporteAbierto& r : sesion.reportes()) {
+    if (!esDePoza(r) || r.ventana == nullptr) continue;
+    std::string s;
+    for (const std::string& pieza : veredicto(*r.ventana)) s += (s.empty() ? "" : "; ") + pieza;
+    return s;
+  }
+  return {};
+}
+
 std::string enUnaLinea(const Mensaje& m) {
   static constexpr std::array<std::string_view, 3> tipos = {"aviso", "pregunta", "fallo"};
   std::string s = std::string(tipos.at(static_cast<std::size_t>(m.tipo))) + ": " + m.texto;
@@ -186,8 +204,8 @@ std::string comoResumen(const Sesion& sesion) {
   // of a project that was not read there is nothing to show but why
   if (sesion.ventana() != nullptr && !sesion.estado().esNuevo) {
     s += visible(sesion.ventana()->Caption.valor()) + "\n";
-    s += datos(sesion) + resultados(sesion) + tablaTanques(sesion) + verificaciones(sesion) + comprobaciones(sesion) +
-         notas(sesion);
+    s += puestos(sesion) + datos(sesion) + resultados(sesion) + tablaTanques(sesion) + verificaciones(sesion) +
+         comprobaciones(sesion) + notas(sesion);
   }
   return s + mensajes(sesion) + "\n";
 }

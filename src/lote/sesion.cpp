@@ -20,13 +20,13 @@ bool sePuedeLeer(const std::filesystem::path& archivo) {
 
 }  // namespace
 
-Sesion::Sesion(const Opciones& opciones, std::string archivo)
+Sesion::Sesion(const Opciones& opciones, std::string archivo, const std::vector<Puesto>& variados)
     : archivo_(std::move(archivo)),
       estructura_(estructuraDe(archivo_)),
       accesible_(estructura_ != nullptr && sePuedeLeer(comoRuta(archivo_))),
       dialogos_(opciones.responder),
       aplicacion_(dialogos_, pantalla_) {
-  ejecutar(opciones);
+  ejecutar(opciones, variados);
   pantalla_.atender();
   mensajes_ = dialogos_.mensajes;
   estado_ = aplicacion_.estado;
@@ -34,7 +34,7 @@ Sesion::Sesion(const Opciones& opciones, std::string archivo)
   abrirReportes();
 }
 
-void Sesion::ejecutar(const Opciones& opciones) {
+void Sesion::ejecutar(const Opciones& opciones, const std::vector<Puesto>& variados) {
   if (estructura_ == nullptr) {
     dialogos_.fallo("La extensión del archivo no es de un proyecto: " + extensiones());
     return;
@@ -46,9 +46,10 @@ void Sesion::ejecutar(const Opciones& opciones) {
   aplicacion_.abrirProyecto(archivo_);
   // a project that was not read to its end is left alone: pressing on would calculate with the fields it has filled
   if (aplicacion_.estado.esNuevo) return;
-  const bool cambiado = std::any_of(opciones.campos.begin(), opciones.campos.end(),
-                                    [this](const Asignacion& a) { return a.ventana == ventana_->nombre(); });
   ponerCampos(opciones, false);
+  const bool conNombre = ponerConNombre(opciones, variados);
+  const bool cambiado = conNombre || std::any_of(opciones.campos.begin(), opciones.campos.end(),
+                                                 [this](const auto& a) { return a.ventana == ventana_->nombre(); });
   for (int i = cambiado ? -1 : 0; i < opciones.veces; ++i) ventana_->Command3_Click();
   calculado_ = ventana_->calculado();
 }
@@ -103,7 +104,22 @@ void Sesion::ponerCampos(const Opciones& opciones, bool deParametros) {
     if (esDeParametros(a.ventana) != deParametros) continue;
     if (!deParametros && a.ventana != ventana_->nombre()) continue;
     poner(*aplicacion_.cargar(a.ventana), a);
+    const Entrada* const e = entradaDe(estructura_->ficha(), a.nombre());
+    puestos_.push_back({a.nombre(), a.texto, e == nullptr ? "" : e->unidad});
   }
+}
+
+/// Whether there was any.
+bool Sesion::ponerConNombre(const Opciones& opciones, const std::vector<Puesto>& variados) {
+  std::vector<Puesto> todos;
+  for (const Asignacion& a : opciones.campos)
+    if (const Entrada* const e = a.conNombre() ? entradaDe(estructura_->ficha(), a.control) : nullptr)
+      todos.push_back({e, a.texto});
+  todos.insert(todos.end(), variados.begin(), variados.end());
+  if (todos.empty()) return false;
+  calvento::poner(*ventana_, *aplicacion_.cargar(estructura_->ficha().parametros), todos);
+  for (const Puesto& p : todos) puestos_.push_back({p.entrada->nombre, p.texto, p.entrada->unidad});
+  return true;
 }
 
 }  // namespace calvento::lote

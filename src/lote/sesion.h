@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "aplicacion/aplicacion.h"
+#include "estudio/entradas.h"
 #include "lote/estructuras.h"
 #include "lote/opciones.h"
 #include "memoria/comprobaciones.h"
@@ -46,11 +47,17 @@ class DialogosGrabados : public Dialogos {
   bool respuesta_;
 };
 
+/// A value that was put into a project beyond what its file says.
+struct ValorPuesto {
+  std::string nombre, texto, unidad;
+};
+
 /// One project, opened and calculated in a program of its own, as if that had just been started: what a project gives
 /// does not depend on the ones before it. The windows live as long as the session.
 class Sesion {
  public:
-  Sesion(const Opciones& opciones, std::string archivo);
+  /// `variados`: what the project is calculated with instead of what its file says.
+  Sesion(const Opciones& opciones, std::string archivo, const std::vector<Puesto>& variados = {});
 
   const std::string& archivo() const { return archivo_; }
   /// nullptr when the file's extension is of no structure.
@@ -68,6 +75,8 @@ class Sesion {
   /// read from it.
   const std::vector<std::string>& notas() const { return notas_; }
   const DesignState& estado() const { return estado_; }
+  /// What was put by --campo and --variar.
+  const std::vector<ValorPuesto>& puestos() const { return puestos_; }
   /// The result windows whose menus are enabled.
   const std::vector<ReporteAbierto>& reportes() const { return reportes_; }
   /// The design with its data. Only of a calculated project.
@@ -80,10 +89,11 @@ class Sesion {
   void nombrarArchivo(const std::string& archivo) { dialogos_.archivoNombrado = archivo; }
 
  private:
-  void ejecutar(const Opciones& opciones);
+  void ejecutar(const Opciones& opciones, const std::vector<Puesto>& variados);
   void abrirReportes();
   void anotarLecturas();
   void ponerCampos(const Opciones& opciones, bool deParametros);
+  bool ponerConNombre(const Opciones& opciones, const std::vector<Puesto>& variados);
 
   std::string archivo_;
   const Estructura* estructura_;
@@ -92,6 +102,7 @@ class Sesion {
   std::vector<Mensaje> mensajes_;
   std::vector<std::string> notas_;
   DesignState estado_;
+  std::vector<ValorPuesto> puestos_;
   std::vector<ReporteAbierto> reportes_;
   VentanaDatos* ventana_ = nullptr;
 
