@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 #include <map>
 
+#include "apoyo/tablas.h"
 #include "cad/form12.h"
 #include "cad/mesa_exportar.h"
-#include "dibujo/estado_rapida.h"
 #include "dibujo/figura_rapida.h"
 #include "dibujo/planta.h"
 
@@ -16,9 +16,7 @@ namespace {
 using Clase = CadGrabado::Clase;
 
 struct MesaRapida : MesaExportar<Form12, Form2> {
-  explicit MesaRapida(int numTramos = 1) : MesaExportar(rapidaDeMano(numTramos)) {
-    estado.progresivaFinPoza = 1034.875;
-  }
+  MesaRapida() : MesaExportar(registro("rapida", "progresivaFinPoza=1034.875")) {}
 };
 
 TEST(ExportarRapida, AsksForConnectionAndLayersBeforeItSends) {

@@ -1,8 +1,7 @@
 #include <algorithm>
 #include <cmath>
-#include <random>
 
-#include "apoyo/publicados.h"
+#include "apoyo/disenos_al_azar.h"
 #include "apoyo/seccion_desnuda.h"
 #include "caida_inclinada/mesa_inclinada.h"
 
@@ -13,35 +12,6 @@ using D = DesignState;
 using desnuda::energia;
 using desnuda::impulso;
 using MesaLibre = MesaInclinadaDe<DialogosLibres>;
-
-std::string t4(double x) { return texto(Round(Real(x), 4)); }
-
-/// A drop that an engineer could ask for, of a slow canal or of a steep one.
-Datos alAzar(std::mt19937& azar, bool rapido) {
-  const auto entre = [&](double a, double b) { return std::uniform_real_distribution<>(a, b)(azar); };
-  const double Q = rapido ? entre(0.2, 3) : entre(0.2, 12);
-  const double B = 18.78 * std::sqrt(Q) / (10.11 + Q) * entre(0.9, 1.2);
-  const double cota = entre(20, 1500);
-  Datos d = rapido ? inclinadaRapida() : inclinadaSubcritica();
-  for (const auto& par : Datos{{"Text5", t4(Q)},
-                               {"Text2", t4(cota)},
-                               {"Text4", t4(cota - entre(1, 4.4))},
-                               {"Text3", t4(entre(0, 15))},
-                               {"Text6", t4(B * entre(0.6, 1))},
-                               {"Text7", rapido || azar() % 3 == 0 ? "0" : "1"},
-                               {"Text8", t4(entre(0.013, 0.017))},
-                               {"Text9", t4(rapido ? entre(0.03, 0.08) : entre(0.0005, 0.002))},
-                               {"Text16", t4(B * (azar() % 5 == 0 ? 1 : entre(0.6, 1.2)))},
-                               {"Text18", rapido || azar() % 3 == 0 ? "0" : "1.5"},
-                               {"Text19", t4(entre(0.013, 0.017))},
-                               {"Text20", t4(entre(0.0005, 0.002))},
-                               {"Text23", t4(B)},
-                               {"Text24", azar() % 3 == 0 ? "0.5" : "0"},
-                               {"Text21", t4(entre(1.5, 2))},
-                               {"Text22", t4(entre(0.5, 2))}})
-    d.push_back(par);
-  return d;
-}
 
 /// The record of a finished drop against relations in bare doubles.
 void comprobar(MesaLibre& m, bool super) {
@@ -129,18 +99,23 @@ void comprobar(MesaLibre& m, bool super) {
 }
 
 TEST(InclinedDrop, RelationsHoldOverRandomDrops) {
-  std::mt19937 azar(20240917);
+  Azar azar(20240917);
   int calculadas[2] = {0, 0};
   for (int i = 0; i < 600 && !HasFailure(); ++i) {
     const bool super = i % 3 == 0;
     MesaLibre m;
-    m.poner(alAzar(azar, super || i % 5 == 0));
+    const Datos d = disenoAlAzar(azar, formatoCaidaInclinada,
+                                 super        ? "13"
+                                 : i % 5 == 0 ? "14"
+                                 : i % 2 == 0 ? "11"
+                                              : "12");
+    m.poner(camposDe(d));
     if (super) m.f.mnsuper.Click();
     m.estado.tipoTanque = static_cast<int>(1 + azar() % 6);
     m.f.Command3.Click();
     if (!m.f.calculado()) continue;
     ++calculadas[super];
-    SCOPED_TRACE(i);
+    SCOPED_TRACE(comoTexto(d));
     comprobar(m, super);
   }
   EXPECT_GT(calculadas[0], 300);

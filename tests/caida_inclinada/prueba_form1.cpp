@@ -1,5 +1,4 @@
 #include "apoyo/mesa_rapida.h"
-#include "apoyo/publicados.h"
 #include "caida_inclinada/mesa_inclinada.h"
 
 namespace calvento {
@@ -8,25 +7,6 @@ namespace {
 using D = DesignState;
 
 constexpr const char* avisoPendiente = "LA PENDIENTE DEL CANAL DEBE SER MAYOR O IGUAL A 2%";
-
-TEST(Publicados, InclinedDrop) {
-  compararPublicados("inclinada", 3, [](const CifraPublicada& c) -> Real {
-    MesaInclinadaDe<DialogosLibres> m;
-    const auto t = [&](const char* nombre) { return texto(Real(c.de(nombre))); };
-    m.poner(inclinadaSubcritica());
-    m.poner({{"Text5", t("Q")}, {"Text6", t("b")}, {"Text7", t("z")}, {"Text8", t("n")}, {"Text9", t("S")}});
-    if (c.magnitud == "ancho") {
-      m.f.Command6.Click();
-      return Val(m.f.Text23.Text);
-    }
-    m.poner({{"Text23", t("B")}});
-    m.parametros.Text5.Text = t("bordo");
-    m.f.Command3.Click();
-    if (c.magnitud == "muro") return m.estado.hArriba;
-    if (c.magnitud == "yc") return m.estado.ycControl;
-    throw std::runtime_error("no such figure: " + c.magnitud);
-  });
-}
 
 TEST(InclinedDropWindow, AtAFroudeNumberOfOneTheCalculationTakesTheControlSection) {
   MesaInclinada m;

@@ -1,8 +1,7 @@
 #include <cmath>
-#include <gtest/gtest.h>
 #include <random>
 
-#include "dibujo/estado_rapida.h"
+#include "apoyo/tablas.h"
 #include "dibujo/figura_rapida.h"
 #include "dibujo/puntos.h"
 #include "dibujo/rotulos.h"
@@ -36,7 +35,7 @@ TEST(FiguraRapida, WaterIsFilledConcreteHatchedAndControlPointsAreBlack) {
   Lienzo lienzo(865, 433);
   lienzo.Scale(-10, 125, 45, 100);
   lienzo.Line({0, 0}, {1, 1});
-  const DesignState e = rapidaDeMano(2);
+  const DesignState e = registro("rapida 2");
   for (int i = 0; i < 6; ++i) (FiguraRapida(e, eje, anchoMayor).*todas[i])(lienzo);
   EXPECT_TRUE(pintadas<PrimLinea>(lienzo).empty()) << "the canvas is cleared first";
   const auto areas = pintadas<PrimPoligono>(lienzo);
@@ -54,7 +53,7 @@ TEST(FiguraRapida, WaterIsFilledConcreteHatchedAndControlPointsAreBlack) {
 TEST(FiguraRapida, PensOfTheLinesOfTheCanal) {
   Lienzo lienzo(865, 433);
   lienzo.Scale(-10, 125, 45, 100);
-  const DesignState e = rapidaDeMano();
+  const DesignState e = registro("rapida");
   FiguraRapida(e, eje, anchoMayor).DIBUJACANAL(lienzo);
   EXPECT_EQ(lienzo.DrawStyle, EstiloLinea::solida);
   const auto polilineas = pintadas<PrimPolilinea>(lienzo);
@@ -68,7 +67,7 @@ TEST(FiguraRapida, PensOfTheLinesOfTheCanal) {
 
 TEST(FiguraRapida, LabelsThatAreLeftOut) {
   const auto dice = [](const std::string& todos, const char* algo) { return todos.find(algo) != std::string::npos; };
-  DesignState e = rapidaDeMano();
+  DesignState e = registro("rapida");
   e.sobreelevacion = 0;
   e.frArriba = 1;
   e.longTransEntrada = e.longTransSalida = 0;
@@ -85,7 +84,7 @@ TEST(FiguraRapida, LabelsThatAreLeftOut) {
   EXPECT_TRUE(hayLinea(pintado<PrimLinea>(e, &FiguraRapida::EJESDIMENSION), {0, 109.6}, {0, 109.6}));
   EXPECT_EQ(pintado<PrimLinea>(e, &FiguraRapida::DIBUJACANAL).size(), 18U);
   // a label without an angle is lost
-  e = rapidaDeMano();
+  e = registro("rapida");
   e.zRampaEntrada = e.zRampaSalida = 0;
   EXPECT_FALSE(dice(rotulos(e, &FiguraRapida::textrotate), "|1:"));
 }
@@ -95,8 +94,8 @@ TEST(FiguraRapida, FontsFollowTheViewDownToTheirSmallestSize) {
     double alto, derecha, girada;
   } casos[] = {{10, 4, 6}, {22, 40.0 / 22, 2}, {1000, 0.04, 1}, {1e6, 0.001, 1}, {0.5, 80, 110}};
   for (const auto& c : casos) {  // 5.5 pixels become the even 6
-    const auto d = pintado<PrimTexto>(rapidaDeMano(), &FiguraRapida::DIMENSIONES, c.alto);
-    const auto g = pintado<PrimTexto>(rapidaDeMano(), &FiguraRapida::textrotate, c.alto);
+    const auto d = pintado<PrimTexto>(registro("rapida"), &FiguraRapida::DIMENSIONES, c.alto);
+    const auto g = pintado<PrimTexto>(registro("rapida"), &FiguraRapida::textrotate, c.alto);
     EXPECT_NEAR(d.front().letra.puntos, c.derecha, 1e-9) << c.alto;
     EXPECT_NEAR(g.front().letra.puntos, c.girada / 1.117 * 0.75, 1e-9) << c.alto;
   }
@@ -107,8 +106,9 @@ TEST(FiguraRapida, AHalfComputedRecordNeverStopsTheFigure) {
   std::mt19937 azar(20240611);
   const double valores[] = {0, 0, 1, -1, 0.05, -0.5, 2, 1e-30, 3e38, -3e38, 1e9, 2534.6};
   std::uniform_int_distribution<std::size_t> cual(0, std::size(valores) - 1);
+  const DesignState enteros[] = {registro("rapida"), registro("rapida 2"), registro("rapida 3")};
   for (int vuelta = 0; vuelta < 300; ++vuelta) {
-    DesignState e = vuelta % 2 == 0 ? DesignState() : rapidaDeMano(1 + vuelta % 3);
+    DesignState e = vuelta % 2 == 0 ? DesignState() : enteros[vuelta % 3];
     for (const auto& c : camposSingle())
       if (vuelta > 0 && (vuelta % 2 == 0 || azar() % 8 == 0)) e.*c.campo = valores[cual(azar)];
     if (vuelta % 5 == 0) e.numTramos = static_cast<std::int16_t>(static_cast<int>(azar() % 12) - 4);

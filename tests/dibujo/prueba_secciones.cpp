@@ -1,7 +1,7 @@
 #include <cmath>
-#include <gtest/gtest.h>
 
 #include "apoyo/navegador_mudo.h"
+#include "apoyo/tablas.h"
 #include "dibujo/figura_seccion.h"
 #include "dibujo/geometria_poza.h"
 #include "dibujo/puntos.h"
@@ -83,18 +83,7 @@ TEST(FiguraSeccion, SinTiranteCriticoQuedaElAgua) {
   EXPECT_EQ(pintadas<PrimPoligono>(h.P).size(), 1U);
 }
 
-DesignState estado() {
-  DesignState e;
-  e.Q = 4;
-  e.nRapida = 0.015, e.bRapida = 2, e.zRapida = 0.5;
-  e.sTramo1 = 0.1, e.sTramo2 = 0.2, e.sTramo3 = 0.4;
-  e.hArriba = 1.5, e.hRapida = 1, e.hPoza = 3, e.hAbajo = 1.6;
-  e.bArriba = e.bAbajo = 2.5, e.bPoza = 2.2;
-  e.bEntradaCaida = 1.8, e.bPozaCaida = 2.4, e.zPozaCaida = 0.25, e.longTransVert = 0.3;
-  e.cotaInicio = 60, e.cotaTramo2 = 55, e.cotaTramo3 = 50, e.cotaFin = 40, e.cotaPoza = 36, e.cotaAbajo = 38;
-  e.ynArriba = 1.1, e.ynAbajo = 1.2, e.yFin = 0.8, e.y1 = 0.2, e.y2 = 2, e.frArriba = 0.6;
-  return e;
-}
+DesignState estado() { return registro("secciones"); }
 
 TEST(VentanaSecciones, LasFlechasDanLaVuelta) {
   NavegadorMudo navegador;

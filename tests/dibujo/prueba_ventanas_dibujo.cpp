@@ -1,9 +1,7 @@
 #include <algorithm>
-#include <gtest/gtest.h>
 
 #include "apoyo/navegador_mudo.h"
-#include "dibujo/estado_caidas.h"
-#include "dibujo/estado_rapida.h"
+#include "apoyo/tablas.h"
 #include "dibujo/form17.h"
 #include "dibujo/form3.h"
 #include "dibujo/form4.h"
@@ -16,9 +14,9 @@ namespace {
 struct VentanasDibujo : testing::Test {
   NavegadorMudo navegador;
   Form2 form2{navegador};
-  DesignState rapida = rapidaDeMano(3);
-  DesignState inclinada = inclinadaDeMano();
-  DesignState vertical = verticalDeMano();
+  DesignState rapida = registro("rapida 3");
+  DesignState inclinada = registro("inclinada");
+  DesignState vertical = registro("vertical");
   Form25 form25{vertical, navegador};
   Form3 f3{rapida, form2, navegador};
   Form4 f4{inclinada, form2, navegador};

@@ -16,28 +16,6 @@ class Archivos : public testing::Test {
   const std::string canal = carpeta.escribir("canal.cvr", ProyectoRapida().contenido());
 };
 
-TEST_F(Archivos, AFieldThatIsNotWhollyANumberIsNoted) {
-  const std::string dudoso =
-      carpeta.escribir("dudoso.cvr", ProyectoRapida().poner("Text5", "1,5").poner("Form2.Text6", "0.30 m").contenido());
-  const std::vector<std::string> notas = {
-      "Rápida, Caudal (Q): «1,5». Se lee 1",
-      "Bordo Libre - Transición- Tanque Amortiguador, Bordo libre: En canal rápida: «0.30 m». Se lee 0.3"};
-  EXPECT_EQ(correr({"--json", dudoso}).objetos()[0]["notas"], notas);
-  const std::string resumen = correr({dudoso}).salida;
-  EXPECT_NE(resumen.find("\nNOTAS\n  " + notas[0] + "\n  " + notas[1] + "\n"), std::string::npos) << resumen;
-  EXPECT_EQ(correr({canal}).salida.find("NOTAS"), std::string::npos);
-}
-
-TEST_F(Archivos, AProjectThatWasNotReadIsNotCalculatedByAnOption) {
-  // the lines up to the basin stand, and the fields of the option would make it calculate
-  const std::string entero = ProyectoRapida().contenido();
-  const std::string cortado = carpeta.escribir("cortado.cvr", entero.substr(0, entero.size() - 6));
-  const Corrida c = correr({"--json", "--campo", "Form10.Text17=1", "--veces", "1", cortado});
-  EXPECT_EQ(c.estado, 1);
-  EXPECT_EQ(c.objetos().at(0)["estado"]["ynArriba"].is_null(), false);
-  EXPECT_TRUE(c.objetos().at(0)["perfil"].empty());
-}
-
 TEST_F(Archivos, AProjectGivesTheSameWhateverCameBefore) {
   // each of these leaves other fields, parameters, table and record behind
   ProyectoRapida tres, roto, cortado, rapido;
@@ -78,6 +56,13 @@ TEST_F(Archivos, NothingThatATerminalObeysReachesIt) {
   for (const std::string& texto : {c.salida, c.errores, j.salida})
     for (const char* mando : {"\x1B", "\x7F", "\u009B", "\u0085", "\t"})
       EXPECT_EQ(texto.find(mando), std::string::npos) << texto;
+}
+
+TEST_F(Archivos, NamesOfOldCodePagesStayDifferent) {
+  // "año" and "aÑo" in Windows-1252: neither is UTF-8
+  for (const char* nombre : {"a\xF1o.cvr", "a\xD1o.cvr"}) carpeta.escribir(nombre, ProyectoRapida().contenido());
+  EXPECT_EQ(correr({"--dxf", carpeta.en("{}.dxf"), "a\xF1o.cvr", "a\xD1o.cvr"}).estado, 0);
+  EXPECT_TRUE(std::filesystem::exists("a\xF1o.dxf") && std::filesystem::exists("a\xD1o.dxf"));
 }
 
 TEST_F(Archivos, OutputThatCannotBeWrittenIsAnErrorAndEndsTheRun) {

@@ -5,7 +5,7 @@
 #include <random>
 #include <tuple>
 
-#include "apoyo/azar.h"
+#include "apoyo/disenos_al_azar.h"
 #include "corrida.h"
 #include "lote/sesion.h"
 
@@ -31,96 +31,35 @@ struct Azaroso {
   std::vector<Asignacion> campos;
 };
 
-/// A chute that an engineer could have typed.
-Azaroso rapida(Azar& azar) {
-  ProyectoRapida p;
-  const double Q = std::exp(entre(azar, std::log(0.1), std::log(15.0)));
-  const double b = 0.765 * std::pow(Q, 0.4);
-  const auto tramos = static_cast<int>(1 + hasta(azar, 3));
-  const double zPoza = hasta(azar, 4) == 0 ? 0.5 : 0;
-  p.poner("Text5", numero(Q, 3)).poner("Text10", numero(b * entre(azar, 0.9, 1.6), 2));
-  for (const char* ancho : {"Text6", "Text16"}) p.poner(ancho, numero(b * entre(azar, 1, 1.8), 2));
-  for (const char* pendiente : {"Text9", "Text20"}) p.poner(pendiente, numero(entre(azar, 0.0003, 0.0015), 5));
-  for (const char* rugosidad : {"Text8", "Text12", "Text19"}) p.poner(rugosidad, numero(entre(azar, 0.013, 0.02), 3));
-  p.poner("Text11", hasta(azar, 4) == 0 ? "0.5" : "0").poner("Text24", numero(zPoza, 1));
-  p.poner("Text23", numero(b * entre(azar, 1, 1.5), 2)).poner("Text17", std::to_string(tramos));
-  for (const char* pendiente : {"Text13", "Text15", "Text14"}) p.poner(pendiente, numero(entre(azar, 0.08, 0.45), 3));
-  double cota = entre(azar, 5, 4200);
-  std::vector<const char*> cotas = {"Text1", "Text2", "Text4"};
-  if (tramos > 2) cotas.insert(cotas.begin() + 1, "Text27");
-  if (tramos > 1) cotas.insert(cotas.begin() + 1, "Text3");
-  for (const char* c : cotas) {
-    p.poner(c, numero(cota, 2));
-    cota -= c == cotas[cotas.size() - 2] ? entre(azar, 0.1, 1) : entre(azar, 1, 12);
-  }
-  p.poner("tipoTanque", zPoza > 0 ? "6" : std::to_string(1 + hasta(azar, 5)));
-  return {p, {}};
-}
-
-/// Canals of a drop and its basin of width b, with the fields that both kinds of drop name alike.
-void canales(Azar& azar, ProyectoTexto& p, double Q, double b, bool rapido) {
-  const double cota = entre(azar, 5, 4200);
-  p.poner("Text5", numero(Q, 3)).poner("Text23", numero(b, 2)).poner("Text25", numero(entre(azar, 0, 20000), 1));
-  p.poner("Text2", numero(cota, 2)).poner("Text4", numero(cota - entre(azar, 0.8, 4.4), 2));
-  for (const char* ancho : {"Text6", "Text16"}) p.poner(ancho, numero(b * entre(azar, 0.75, 1), 2));
-  for (const char* talud : {"Text7", "Text18"}) p.poner(talud, rapido || hasta(azar, 3) == 0 ? "0" : "1");
-  for (const char* rugosidad : {"Text8", "Text19"}) p.poner(rugosidad, numero(entre(azar, 0.013, 0.02), 3));
-  p.poner("Text9", numero(rapido ? entre(azar, 0.035, 0.08) : entre(azar, 0.0005, 0.0015), 5));
-  p.poner("Text20", numero(entre(azar, 0.0005, 0.0015), 5)).poner("Text22", numero(entre(azar, 0, 2), 1));
-}
-
-/// An inclined drop; a third of them has a steep canal, for which the outlet is asked for too.
-Azaroso inclinada(Azar& azar) {
-  ProyectoTexto p(formatoCaidaInclinada, {{"Text21", "2"},
-                                          {"Text3", "10"},
-                                          {"Form2.Text1", "5"},
-                                          {"Form2.Text2", "6.1"},
-                                          {"Form2.Text3", "2.8"},
-                                          {"Form2.Text4", "4.4"},
-                                          {"Form2.Text5", "0.20"},
-                                          {"Form2.Text6", "0.30"},
-                                          {"Form2.Text7", "0.30"},
-                                          {"Form2.Text8", "0.20"},
-                                          {"Form2.Text10", "6"},
-                                          {"anguloTransicion", "12.5"}});
-  const bool rapido = hasta(azar, 3) == 0;
-  const double Q = std::exp(entre(azar, std::log(0.1), std::log(rapido ? 3.0 : 15.0)));
-  canales(azar, p, Q, 18.78 * std::sqrt(Q) / (10.11 + Q) * entre(azar, 1, 1.3), rapido);
-  const bool trapezoidal = hasta(azar, 4) == 0;
-  p.poner("Text24", trapezoidal ? "0.5" : "0");
-  p.poner("tipoTanque", trapezoidal ? "6" : std::to_string(1 + hasta(azar, 5)));
-  if (!rapido) return {p, {}};
-  return {p, {{"Form1", "mnsuper", "1"}}};
-}
-
-/// A vertical drop with either option and either aeration, set in the file or in the windows.
-Azaroso vertical(Azar& azar) {
-  ProyectoTexto p(formatoCaidaVertical, {{"Form25.Text2", "0.20"},
-                                         {"Form25.Text1", "5"},
-                                         {"Form25.Text5", "0.20"},
-                                         {"Form25.Text8", "0.20"},
-                                         {"anguloTransicion", "12.5"},
-                                         {"tipoTubo", "Tubería de PVC"},
-                                         {"longTubo", "2"},
-                                         {"diamTubo", "0.0508"}});
-  const double Q = std::exp(entre(azar, std::log(0.1), std::log(6.0)));
-  canales(azar, p, Q, 1.2 * std::pow(Q, 0.4) * entre(azar, 0.9, 1.3), false);
-  p.poner("tipoTransVert", std::to_string(hasta(azar, 2))).poner("tipoTanque", std::to_string(hasta(azar, 2)));
-  std::vector<Asignacion> campos;
-  if (hasta(azar, 3) == 0) campos.push_back({"Form16", hasta(azar, 2) == 0 ? "Option1" : "Option2", "1"});
-  if (hasta(azar, 3) == 0) campos.push_back({"Form25", hasta(azar, 2) == 0 ? "Option3" : "Option4", "1"});
-  return {p, campos};
-}
-
 struct Estructura {
   const char* nombre;
   const FormatoProyecto& formato;
-  Azaroso (*sensato)(Azar&);
   const char* parametros;
 };
-const Estructura estructuras[] = {{"rapida", formatoRapida, rapida, "Form2"},
-                                  {"inclinada", formatoCaidaInclinada, inclinada, "Form2"},
-                                  {"vertical", formatoCaidaVertical, vertical, "Form25"}};
+const Estructura estructuras[] = {{"rapida", formatoRapida, "Form2"},
+                                  {"inclinada", formatoCaidaInclinada, "Form2"},
+                                  {"vertical", formatoCaidaVertical, "Form25"}};
+
+/// What an engineer could have typed; of inclined drops a third asks for the outlet of a steep canal, and the options
+/// of a vertical drop are set in the file or in its windows.
+Azaroso sensato(Azar& azar, const Estructura& e) {
+  const bool super = &e == &estructuras[1] && hasta(azar, 3) == 0;
+  const char* inclinadas[] = {"11", "12", "14"};
+  Datos d = disenoAlAzar(azar, e.formato, super ? "13" : &e == &estructuras[1] ? inclinadas[hasta(azar, 3)] : "");
+  std::vector<Asignacion> campos;
+  if (super) campos.push_back({"Form1", "mnsuper", "1"});
+  if (&e == &estructuras[2]) {
+    linea(d, "tipoTransVert") = std::to_string(hasta(azar, 2));
+    linea(d, "tipoTanque") = std::to_string(hasta(azar, 2));
+    if (hasta(azar, 3) == 0) campos.push_back({"Form16", hasta(azar, 2) == 0 ? "Option1" : "Option2", "1"});
+    if (hasta(azar, 3) == 0) campos.push_back({"Form25", hasta(azar, 2) == 0 ? "Option3" : "Option4", "1"});
+  } else if (linea(d, "Text24") == "0") {
+    linea(d, "tipoTanque") = std::to_string(1 + hasta(azar, 5));
+  }
+  ProyectoTexto p(e.formato);
+  for (const auto& [nombre, texto] : d) p.poner(nombre, texto);
+  return {p, campos};
+}
 
 const std::vector<std::string>& raros() {
   static const std::vector<std::string> todos = [] {
@@ -135,11 +74,9 @@ const std::vector<std::string>& raros() {
   return todos;
 }
 
-Azaroso sensato(Azar& azar, const Estructura& e) { return e.sensato(azar); }
-
 /// A sensible project with a few fields that are not.
 Azaroso raro(Azar& azar, const Estructura& e) {
-  Azaroso a = e.sensato(azar);
+  Azaroso a = sensato(azar, e);
   for (std::size_t i = 1 + hasta(azar, 3); i-- > 0;) {
     const auto linea = e.formato.lineas[hasta(azar, e.formato.lineas.size())];
     if (hasta(azar, 2) == 0)
@@ -152,7 +89,7 @@ Azaroso raro(Azar& azar, const Estructura& e) {
 
 /// Whatever in every field.
 Azaroso basura(Azar& azar, const Estructura& e) {
-  Azaroso a = e.sensato(azar);
+  Azaroso a = sensato(azar, e);
   for (const auto linea : e.formato.lineas)
     a.proyecto.poner(linea, hasta(azar, 3) == 0 ? ""
                             : hasta(azar, 2) == 0

@@ -3,7 +3,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "apoyo/dialogos_guion.h"
+#include "apoyo/cajas_escritas.h"
 #include "apoyo/mesa.h"
 #include "lote/campos.h"
 #include "lote/caso.h"
@@ -40,6 +40,9 @@ class Escena {
       : datos_(datos), ventana_(programa_.cargar(escena["ventana"].get<std::string>())) {
     const Json archivos = escena.value("archivos", Json::object());
     for (const auto& [nombre, lineas] : archivos.items()) {
+      if (lineas == "carpeta") std::filesystem::create_directory(nombre);
+      if (lineas == "tubería") carpeta_.tuberia(nombre);
+      if (!lineas.is_array()) continue;
       std::string contenido;
       for (const Json& l : lineas) contenido += l.get<std::string>() + "\r\n";
       carpeta_.escribir(nombre, contenido);
@@ -52,7 +55,11 @@ class Escena {
 
  private:
   void dar(const Json& paso) {
-    for (const Json& c : paso.value("cajas", Json::array())) preparar(c.get<std::string>());
+    for (const Json& c : paso.value("cajas", Json::array())) {
+      std::string caja = c;
+      if (const auto i = caja.find("{}/"); i != std::string::npos) caja.replace(i, 2, carpeta_.en(""));
+      prepararCaja(dialogos_, caja);
+    }
     sistema_.llamadas.clear();
     const auto obrar = [&] {
       if (paso.contains("base")) ponerTodo(datos_[paso["base"].get<std::string>()]);
@@ -70,17 +77,6 @@ class Escena {
     for (const auto& [que, debe] : ve.items()) comparar(valor(que), debe, que);
   }
 
-  /// "aviso: words", "fallo: words", "si: question", "no: question"; without words any.
-  void preparar(const std::string& caja) {
-    const std::string clase = caja.substr(0, caja.find(':')),
-                      texto = caja.substr(std::min(caja.size(), clase.size() + 2));
-    if (clase == "aviso") dialogos_.esperaAviso(texto);
-    if (clase == "fallo") dialogos_.esperaFallo(texto);
-    if (clase == "abrir") dialogos_.abre(texto);
-    if (clase == "guardar") texto.empty() ? dialogos_.guarda(std::nullopt) : dialogos_.guarda(texto);
-    if (clase == "si" || clase == "no") dialogos_.responde(clase == "si", texto);
-  }
-
   /// The control of a name with or without the window's.
   std::pair<Ventana*, std::string> donde(const std::string& nombre) {
     if (!nombre.starts_with("Form")) return {ventana_, nombre};
@@ -94,6 +90,8 @@ class Escena {
     for (const auto& [nombre, texto] : objeto.items()) {
       if (nombre.starts_with("=")) {
         if (Single* c = campo(nombre)) *c = Val(texto.get<std::string>());
+        if (nombre == "=rutaArchivo") programa_.estado.rutaArchivo = texto;
+        if (nombre == "=esNuevo") programa_.estado.esNuevo = texto == "1";
         continue;
       }
       const auto [v, control] = donde(nombre);
@@ -142,8 +140,9 @@ class Escena {
     if (Single* c = que.starts_with("=") ? campo(que) : nullptr) return static_cast<double>(c->valor());
     if (que == "=numTramos") return static_cast<int>(e.numTramos);
     if (que == "=esNuevo") return e.esNuevo;
+    if (que == "entradas") return carpeta_.entradas();
     if (que == "=perfil") return e.perfil.size();
-    if (que.starts_with("archivo ")) return leerLineas(que.substr(8), 99);
+    if (que.starts_with("archivo ")) return leerLineas(carpeta_.en(que.substr(8)), 99);
     if (que == "=tipoTubo") return e.tipoTubo;
     if (que == "=rutaArchivo") return e.rutaArchivo;
     if (que == "calculado") return dynamic_cast<VentanaDatos*>(ventana_)->calculado();
@@ -216,6 +215,9 @@ TEST_P(Guion, GoesAsItIsWritten) {
   const Json guion = Json::parse(std::ifstream(GetParam()));
   for (const auto& [nombre, escena] : guion["escenas"].items()) {
     SCOPED_TRACE(nombre);
+#ifdef _WIN32
+    if (escena.contains("posix")) continue;
+#endif
     const Escena jugada(escena, guion.value("datos", Json::object()));
   }
 }

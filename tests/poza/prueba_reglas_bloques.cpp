@@ -1,7 +1,8 @@
 #include <algorithm>
-#include <gtest/gtest.h>
+#include <map>
 
 #include "apoyo/navegador_mudo.h"
+#include "apoyo/tablas.h"
 #include "apoyo/textos.h"
 #include "poza/form21.h"
 #include "poza/form22.h"
@@ -14,32 +15,17 @@ namespace {
 constexpr double tolerancia = 1e-6;
 constexpr Tanque todosLosTanques[] = {Tanque::usbr1, Tanque::usbr2, Tanque::usbr3, Tanque::saf};
 
-DesignState pozaDeMano() {
-  DesignState e;
-  e.bPozaCaida = 2.5, e.y1 = 0.5, e.y2 = 2, e.fr1 = 5, e.longPoza = 9, e.profPoza = 0.35, e.zRampaEntrada = 1.5;
-  return e;
-}
+DesignState pozaDeMano() { return registro("poza"); }
 
 TEST(ReglasBloques, CountsTakeTheEvenOneAtATie) {
-  // width over the spacing of the blocks is a half at each of these
-  const struct {
-    Tanque tanque;
-    bool rampa;
-    double ancho;
-    int numero;
-  } casos[] = {{Tanque::usbr2, true, 2.5, 2},       // 2.5 / (2 × 0.5)
-               {Tanque::usbr2, true, 3.5, 4},       // 3.5
-               {Tanque::usbr3, true, 1.5, 2},       // 1.5
-               {Tanque::saf, true, 1.875, 2},       // 1.875 / (1.5 × 0.5) = 2.5
-               {Tanque::saf, false, 2.625, 4},      // 3.5
-               {Tanque::usbr1, true, 3.28125, 2},   // 3.28125 / (1.3125 × 1) = 2.5
-               {Tanque::usbr1, true, 4.59375, 4}};  // 3.5
   const DesignState e = pozaDeMano();
-  for (const auto& c : casos) {
-    const DatosBloques d{e, c.ancho, {}};
-    const HileraBloques h = c.rampa ? bloquesDeRampa(c.tanque, d) : *bloquesDePiso(c.tanque, d);
-    EXPECT_EQ(h.numero.valor(), c.numero) << static_cast<int>(c.tanque) << " " << c.ancho;
-  }
+  const std::map<std::string, Tanque> tanques = {
+      {"usbr1", Tanque::usbr1}, {"usbr2", Tanque::usbr2}, {"usbr3", Tanque::usbr3}, {"saf", Tanque::saf}};
+  porCadaFila("poza.txt", "numero de bloques", [&](const Fila& f) {
+    const DatosBloques d{e, f.num(2), {}};
+    const Tanque t = tanques.at(f[0]);
+    EXPECT_EQ((f[1] == "rampa" ? bloquesDeRampa(t, d) : *bloquesDePiso(t, d)).numero.valor(), f.num(3));
+  });
 }
 
 TEST(ReglasBloques, BlocksAndGapsFillTheWidthFromWallToWall) {
@@ -87,16 +73,12 @@ struct HojasDeBloques : testing::Test {
 };
 
 TEST_F(HojasDeBloques, TheFloorOfHeightsChangesTheCountToo) {
-  const auto dice = [&](double y1, bool vigente, const char* minimo, const char* esperado) {
-    e.y1 = y1;
-    form2.Check1.Value = vigente;
-    form2.Text11.Text = minimo;
-    esperarTextos(Form5(e, form2, navegador), esperado);
-  };
-  dice(0.1, false, "0.2", "Label10=0.1 Label14=12");  // 12.5, a tie
-  dice(0.1, true, "0.2", "Label10=0.2 Label14=6");    // 6.25
-  dice(0.3, true, "0.2", "Label10=0.3 Label14=4");    // a higher block stays
-  dice(0.1, true, "", "Label10=0.1 Label14=12");
+  porCadaFila("poza.txt", "minimo", [&](const Fila& f) {
+    e.y1 = f.num(0);
+    form2.Check1.Value = f.si(1);
+    form2.Text11.Text = f[2];
+    esperarTextos(Form5(e, form2, navegador), f[3]);
+  });
 }
 
 TEST_F(HojasDeBloques, DoNotOpenOnABasinWithoutWidth) {

@@ -1,4 +1,3 @@
-#include <gtest/gtest.h>
 #include <memory>
 
 #include <QImage>
@@ -6,7 +5,7 @@
 #include <QTest>
 
 #include "apoyo/navegador_mudo.h"
-#include "dibujo/estado_rapida.h"
+#include "apoyo/tablas.h"
 #include "dibujo/form3.h"
 #include "pantalla.h"
 #include "plataforma/lienzo.h"
@@ -90,7 +89,7 @@ TEST_F(EnPantalla, SobreviveALaVentanaQueMuestraYAlReves) {
 }
 
 TEST_F(EnPantalla, UnaCajaArrastradaAmpliaElDibujoDeLaRapida) {
-  DesignState estado = rapidaDeMano();
+  DesignState estado = registro("rapida");
   NavegadorMudo navegador;
   const Form2 parametros(navegador);
   Form3 dibujo(estado, parametros, navegador);

@@ -273,31 +273,5 @@ TEST(TablaAnteUnaCaja, MuestraLosVeredictosDelCalculoQueCorre) {
   }
 }
 
-/// Why the project asks for a type stands beside the hints, where it fits, until a row is chosen.
-TEST(TablaAnteUnaCaja, UnProyectoSinTipoLoDiceEnLaBarraDeEstado) {
-  DialogosGuion dialogos;
-  Programa programa{dialogos};
-  programa.aplicacion.arrancar();
-  programa.aplicacion.mostrar("Form10");
-  auto& rapida = *programa.aplicacion.cargar<Form10>("Form10");
-  MesaRapida::ponerEn(rapida, rapidaDeUnTramo());
-  QTemporaryDir carpeta;
-  const std::string archivo = deQt(carpeta.filePath("sin.cvr"));
-  dialogos.guarda(archivo).esperaAviso(avisoSinTanque);
-  rapida.mnguardar.Click();
-  rapida.abrir(archivo);
-  const QMainWindow* vista = programa.sistema.vista("Form10");
-  const auto* nota = vista->findChild<QLabel*>("sbStatusBar_nota");
-  QTest::qWait(0);
-  EXPECT_EQ(deQt(nota->text()), "El proyecto no indica un tipo de tanque de la tabla (1 a 6)");
-  EXPECT_TRUE(nota->isVisible());
-  EXPECT_GE(nota->width(), nota->sizeHint().width());
-  rapida.Text6.Text = "1.3";  // a preview writes its hint
-  EXPECT_TRUE(nota->isVisible());
-  auto* tabla = vista->findChild<QTableView*>("Grid1");
-  QTest::mouseClick(tabla->viewport(), Qt::LeftButton, {}, tabla->visualRect(tabla->model()->index(0, 0)).center());
-  EXPECT_FALSE(nota->isVisible());
-}
-
 }  // namespace
 }  // namespace calvento

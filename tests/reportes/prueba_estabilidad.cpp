@@ -1,36 +1,27 @@
 #include <cmath>
-#include <gtest/gtest.h>
 
 #include "apoyo/navegador_mudo.h"
 #include "apoyo/seccion_desnuda.h"
+#include "apoyo/tablas.h"
 #include "reportes/estabilidad.h"
 #include "reportes/form6.h"
 
 namespace calvento {
 namespace {
 
-/// A rectangular chute 1.2 m wide, 40 m long at 1:4, from 1+000 on.
-DesignState rapida() {
-  DesignState e;
-  e.Q = 2.4, e.progresivaInicio = 1000, e.bRapida = 1.2, e.nRapida = 0.014, e.numTramos = 1, e.sTramo1 = 0.25;
-  e.cotaInicio = 110, e.cotaFin = 100, e.longRapida = 40;
-  return e;
-}
+DesignState rapida() { return registro("estabilidad"); }
 
 NumerosOndas rectangulo(double b, double y, double v, double X, double perdida) {
   return numerosOndas({b, 0}, {y, v, b * y, b, X, perdida});
 }
 
 TEST(NumerosDeOndas, CanalAnchoRectangular) {
-  // in a very wide rectangle the shape factor is 2/3, the closed form of Vedernikov's number by Manning's friction:
-  // Nv = 2/3 v / sqrt(g y cos θ); there Montuori's number is v² / (g J L cos θ)
-  const struct { double y, v, X, J; } casos[] = {{0.2, 5, 30, 0.1}, {0.5, 12, 100, 0.4}, {0.05, 3, 12, 0.02}};
-  for (const auto& c : casos) {
-    const NumerosOndas n = rectangulo(1e7, c.y, c.v, c.X, c.J * c.X);
-    const double coseno = 1 / std::sqrt(1 + c.J * c.J);
-    EXPECT_NEAR(n.Nv.valor(), 2.0 / 3 * c.v / std::sqrt(9.81 * c.y * coseno), 1e-6);
-    EXPECT_NEAR(n.M.valor(), c.v * c.v / (9.81 * c.J * c.X * coseno), 1e-9);
-  }
+  porCadaFila("reportes.txt", "ondas", [](const Fila& f) {
+    const double y = f.num(0), v = f.num(1), X = f.num(2), J = f.num(3), coseno = 1 / std::sqrt(1 + J * J);
+    const NumerosOndas n = rectangulo(1e7, y, v, X, J * X);
+    EXPECT_NEAR(n.Nv.valor(), 2.0 / 3 * v / std::sqrt(9.81 * y * coseno), 1e-6);
+    EXPECT_NEAR(n.M.valor(), v * v / (9.81 * J * X * coseno), 1e-9);
+  });
 }
 
 TEST(NumerosDeOndas, ElFactorDeFormaMultiplicaSuUltimoTermino) {

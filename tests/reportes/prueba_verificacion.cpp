@@ -1,8 +1,7 @@
-#include <gtest/gtest.h>
-
 #include "apoyo/dialogos_guion.h"
 #include "apoyo/navegador_mudo.h"
 #include "apoyo/seccion_desnuda.h"
+#include "apoyo/tablas.h"
 #include "comun/numeros.h"
 #include "reportes/ventana_verificacion.h"
 
@@ -12,26 +11,7 @@ namespace {
 using desnuda::critico;
 using desnuda::impulso;
 
-/// A chute of 20 m of fall into a basin 2.5 m wide, with a canal downstream that holds the jump.
-DesignState rapida() {
-  DesignState e;
-  e.Q = 4, e.bRapida = 2, e.nRapida = 0.014, e.numTramos = 1, e.sTramo1 = 0.25, e.cotaInicio = 120, e.cotaFin = 100;
-  e.bPoza = 2.5, e.cotaPoza = 97, e.bAbajo = 2, e.zAbajo = 1, e.nAbajo = 0.025, e.sAbajo = 0.0008, e.cotaAbajo = 98.4;
-  e.tipoTanque = 1;
-  return e;
-}
-
-DesignState inclinada() {
-  DesignState e = rapida();
-  e.bArriba = 3, e.zArriba = 1, e.nArriba = 0.02, e.sArriba = 0.0008, e.bEntradaCaida = e.bPozaCaida = 2;
-  return e;
-}
-
-DesignState vertical(int tipo) {
-  DesignState e = inclinada();
-  e.tipoTanque = tipo, e.cotaPoza = 98.2, e.cotaAbajo = 98.6, e.kLongPoza = 6;
-  return e;
-}
+DesignState rapida() { return registro("verificacion de la rapida"); }
 
 struct Verificacion : testing::Test {
   NavegadorMudo navegador;
@@ -125,16 +105,15 @@ TEST_F(Verificacion, LoQueFallaEnLaRapidaQuedaComoEnLaFilaAnterior) {
   for (int fila = 3; fila <= 12; ++fila) dialogos.esperaAviso(inalcanzable);
   EXPECT_EQ(tabla13(e).texto(3, 2), "0");
   dialogos.comprobarGastado();
-  e = inclinada();
+  e = registro("verificacion de la inclinada");
   e.cotaPoza = 101;  // told once, and the window does not open
   dialogos.esperaAviso(inalcanzable);
   EXPECT_THROW(tabla7(e), FalloAritmetico);
 }
 
 TEST_F(Verificacion, CaidaLibrePorRand) {
-  DesignState e = vertical(1);
-  e.Q = 1.4;  // 0.70 per metre over 1.00 m: the published sheet D 0.0499, Ld 1.91, y1 0.15, y2 0.74
-  e.cotaPoza = 99;
+  DesignState e = registro("verificacion de la vertical", "Q=1.4 cotaPoza=99");
+  // 0.70 per metre over 1.00 m: the published sheet D 0.0499, Ld 1.91, y1 0.15, y2 0.74
   const Rejilla t = tabla26(e);
   EXPECT_NEAR(de(t, 3, 2), 0.15, 0.005);
   EXPECT_NEAR(de(t, 3, 4), 0.74, 0.005);

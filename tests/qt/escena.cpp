@@ -1,0 +1,318 @@
+#include "escena.h"
+
+#include <algorithm>
+#include <set>
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+
+#include "apoyo/cajas_escritas.h"
+#include "apoyo/tablas.h"
+#include "comun/numeros.h"
+#include "qt/cadena.h"
+
+namespace calvento {
+
+namespace {
+
+constexpr auto noEsta = "no está";
+std::string siNo(bool b) { return b ? "sí" : "no"; }
+
+std::pair<std::string, std::string> partidoEn(const std::string& s, char c) {
+  const auto i = s.find(c);
+  return i == std::string::npos ? std::pair(s, std::string())
+                                : std::pair(sinBlancos(s.substr(0, i)), sinBlancos(s.substr(i + 1)));
+}
+
+/// Clicks where a user would: on the mark of an option, else in the middle.
+void pulsarWidget(QWidget& w) {
+  const auto* boton = qobject_cast<QAbstractButton*>(&w);
+  const bool marca = boton != nullptr && boton->isCheckable() && qobject_cast<QPushButton*>(&w) == nullptr;
+  QTest::mouseClick(&w, Qt::LeftButton, {}, marca ? QPoint(8, w.height() / 2) : w.rect().center());
+}
+
+}  // namespace
+
+void Escena::Cajas::fallo(const std::string& texto) {
+  DialogosGuion::fallo(texto);
+  for (const VentanaUi& v : ventanasUi())
+    if (const std::string m = escena.marcados(std::string(v.nombre)); !m.empty()) escena.conLaCaja_ = m;
+}
+
+Escena::Escena(const std::vector<std::string>& lineas) {
+  programa_.aplicacion.arrancar();
+  if (!QTest::qWaitFor([this] { return programa_.sistema.vista("frmAbout") != nullptr; }))
+    throw std::runtime_error("the program does not start");
+  programa_.aplicacion.descargar(*programa_.aplicacion.cargada("frmAbout"));
+  EXPECT_TRUE(QTest::qWaitForWindowActive(programa_.sistema.vista("frmMain")));
+  for (const std::string& l : lineas) {
+    SCOPED_TRACE(l);
+    const auto [orden, resto] = partidoEn(l, ' ');
+    dar(orden, resto);
+    if (testing::Test::HasFatalFailure()) return;
+  }
+}
+
+void Escena::dar(const std::string& orden, const std::string& resto) {
+  const auto [primero, demas] = partidoEn(resto, ' ');
+  if (orden == "ve") return comprobar(resto);
+  Aplicacion& a = programa_.aplicacion;
+  if (orden == "caja") {
+    prepararCaja(cajas_, resto);
+  } else if (orden == "tolera") {
+    cajas_.tolera(resto == "fallo" ? DialogosGuion::Clase::fallo : DialogosGuion::Clase::aviso);
+    if (resto == "todo") cajas_.tolera(DialogosGuion::Clase::fallo).tolera(DialogosGuion::Clase::pregunta);
+  } else if (orden == "archivo") {
+    std::string contenido;
+    for (const std::string& l : partido(demas, '/')) contenido += l + "\n";
+    carpeta_.escribir(primero, contenido);
+  } else if (orden == "abre") {
+    EXPECT_TRUE(a.abrirProyecto(resto.starts_with("ejemplos/") ? RAIZ_PROYECTO "/" + resto : resto));
+  } else if (orden == "muestra") {
+    a.mostrar(resto);
+  } else if (orden == "oculta") {
+    a.ocultar(*a.cargada(resto));
+  } else if (orden == "cierra") {
+    programa_.sistema.marco(resto)->close();
+  } else if (orden == "anota") {
+    notas_[primero] = valor(demas);
+  } else if (orden == "espia") {
+    const auto [ventana, control] = partidoEn(resto, '.');
+    a.cargada(ventana)->buscar<Menu>(control)->Click = [this, quien = control] { hecho_ += quien + " "; };
+  } else if (orden == "teclea") {
+    teclear(resto);
+  } else if (orden == "tecla") {
+    tecla(resto);
+  } else if (orden == "raton") {
+    raton(resto);
+  } else if (QObject* o = objeto(primero, orden == "pulsa" ? "QPushButton" : ""); o == nullptr) {
+    FAIL() << "no " << primero;
+  } else if (orden == "elige") {
+    auto* accion = qobject_cast<QAction*>(o);
+    accion != nullptr ? accion->trigger() : (void)o->setProperty("currentIndex", std::stoi(demas));
+  } else if (auto* w = qobject_cast<QWidget*>(o); orden == "enfoca") {
+    w->setFocus();
+  } else if (orden == "mueve") {
+    const auto n = partido(demas, ' ');
+    w->setGeometry(std::stoi(n.at(0)), std::stoi(n.at(1)), w->width() + std::stoi(n.at(2)),
+                   w->height() + std::stoi(n.at(3)));
+  } else if (orden == "pulsa") {
+    pulsarWidget(*w);
+  } else if (orden == "pon") {
+    w->setFocus();
+    qobject_cast<QLineEdit*>(w)->selectAll();
+    demas.empty() ? QTest::keyClick(w, Qt::Key_Delete) : QTest::keyClicks(w, aQt(demas));
+  } else {
+    FAIL() << "no such order";
+  }
+  QTest::qWait(5);
+}
+
+/// All keys are sent to the main window, as the desktop sends them, or to the menu that is down: Qt finds who gets
+/// them.
+void Escena::teclear(const std::string& texto) {
+  for (const char c : texto) {
+    if (QWidget* menu = QApplication::activePopupWidget())
+      QTest::keyClick(menu, c);
+    else
+      QTest::keyClick(programa_.sistema.vista("frmMain")->windowHandle(), c);
+  }
+}
+
+void Escena::tecla(const std::string& cual) {
+  QWindow* w = programa_.sistema.vista("frmMain")->windowHandle();
+  if (cual == "Alt") {
+    QTest::keyPress(w, Qt::Key_Alt, Qt::AltModifier);
+    QTest::keyRelease(w, Qt::Key_Alt);
+    return;
+  }
+  const QKeyCombination k = QKeySequence(aQt(cual))[0];
+  QTest::keyClick(w, k.key(), k.keyboardModifiers());
+}
+
+/// Clicks on a menu of a menu bar, on an entry of the menu that is down, or on a row of a table, 0 its heading.
+void Escena::raton(const std::string& donde) {
+  const auto [nombre, fila] = partidoEn(donde, '[');
+  QObject* o = objeto(nombre);
+  if (auto* t = qobject_cast<QTableView*>(o)) {
+    const int n = std::stoi(fila);
+    if (n == 0) return QTest::mouseClick(t->horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(20, 8));
+    const QPoint celda = t->visualRect(t->model()->index(n - 1, 0)).center();
+    return QTest::mouseClick(t->viewport(), Qt::LeftButton, {}, celda);
+  }
+  if (auto* menu = qobject_cast<QMenu*>(o)) {
+    auto* barra = qobject_cast<QMenuBar*>(menu->parentWidget());
+    QTest::mouseClick(barra, Qt::LeftButton, {}, barra->actionGeometry(menu->menuAction()).center());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return menu->isVisible(); }));
+    return;
+  }
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(qobject_cast<QAction*>(o)).center());
+}
+
+/// "NAME = TEXT", "!=" or "<"; "(a b)" in the name stands for each of them, "@nota" for what was noted.
+void Escena::comprobar(const std::string& que) {
+  const std::size_t i = std::min({que.find(" ="), que.find(" !="), que.find(" <")});
+  ASSERT_NE(i, std::string::npos);
+  std::string nombre = sinBlancos(que.substr(0, i)), debe = que.substr(i + 1);
+  const std::string signo = debe.substr(0, debe[0] == '!' ? 2 : 1);
+  debe = sinBlancos(debe.substr(signo.size()));
+  for (auto nota = notas_.rbegin(); nota != notas_.rend(); ++nota)
+    for (std::string* s : {&nombre, &debe})
+      if (const auto k = s->find("@" + nota->first); k != std::string::npos)
+        s->replace(k, nota->first.size() + 1, nota->second);
+  const auto abre = nombre.find('('), cierra = nombre.find(')');
+  for (const std::string& uno : abre == std::string::npos ? std::vector<std::string>{""}
+                                                          : partido(nombre.substr(abre + 1, cierra - abre - 1), ' ')) {
+    const std::string este =
+        abre == std::string::npos ? nombre : nombre.substr(0, abre) + uno + nombre.substr(cierra + 1);
+    std::string es;
+    const bool bien = QTest::qWaitFor(
+        [&] {
+          es = valor(este);
+          return signo == "<" ? std::stod(es) < std::stod(debe) : (es == debe) == (signo == "=");
+        },
+        1000);
+    EXPECT_TRUE(bien) << este << " is \"" << es << "\"";
+  }
+}
+
+QObject* Escena::objeto(const std::string& nombre, const std::string& clase) const {
+  const auto [ventana, resto] = partidoEn(nombre, '.');
+  QMainWindow* vista = programa_.sistema.vista(ventana);
+  if (vista == nullptr || resto.empty()) return vista;
+  QWidget* marco = programa_.sistema.marco(ventana);
+  if (resto == "marco") return marco;
+  if (resto != "franja") return vista->findChild<QObject*>(aQt(resto));
+  const auto* franja = marco->findChild<QWidget*>("franja");
+  if (franja == nullptr || !franja->isVisible()) return nullptr;
+  return clase.empty() ? static_cast<QObject*>(franja->findChild<QLabel*>()) : franja->findChild<QPushButton*>();
+}
+
+std::vector<QMdiSubWindow*> Escena::enOrden() const {
+  std::vector<QMdiSubWindow*> todas;
+  for (QMdiSubWindow* h :
+       programa_.sistema.vista("frmMain")->findChild<QMdiArea*>()->subWindowList(QMdiArea::StackingOrder))
+    if (h->isVisible()) todas.insert(todas.begin(), h);
+  return todas;
+}
+
+/// The window that is active, above all others and has the focus.
+std::string Escena::enFrente() const {
+  const auto* activa = programa_.sistema.vista("frmMain")->findChild<QMdiArea*>()->activeSubWindow();
+  if (activa == nullptr || activa != enOrden().front()) return "not above the others";
+  const QWidget* foco = QApplication::focusWidget();
+  return (foco != nullptr && activa->isAncestorOf(foco) ? "" : "without the focus ") +
+         deQt(activa->widget()->objectName());
+}
+
+std::string Escena::marcados(const std::string& ventana) const {
+  std::set<std::string> todos;
+  if (const QMainWindow* vista = programa_.sistema.vista(ventana))
+    for (const QLineEdit* c : vista->findChildren<QLineEdit*>())
+      if (!c->accessibleDescription().isEmpty()) todos.insert(deQt(c->objectName() + ": " + c->toolTip()));
+  std::string s;
+  for (const std::string& t : todos) s += (s.empty() ? "" : "; ") + t;
+  return s;
+}
+
+std::string Escena::valor(const std::string& nombre) const {
+  std::string s;
+  if (nombre == "hecho") return sinBlancos(hecho_);
+  if (nombre == "conLaCaja") return conLaCaja_;
+  if (nombre == "enfrente") return enFrente();
+  if (nombre == "foco") {
+    const QWidget* f = QApplication::focusWidget();
+    const QWidget* v = f;
+    while (v != nullptr && qobject_cast<const QMainWindow*>(v) == nullptr) v = v->parentWidget();
+    return v == nullptr ? "none" : deQt(v->objectName() + "." + f->objectName());
+  }
+  if (nombre == "orden") {
+    for (const QMdiSubWindow* h : enOrden()) s += deQt(h->widget()->objectName()) + " ";
+    return sinBlancos(s);
+  }
+  if (nombre == "lugares") {
+    std::set<std::pair<int, int>> lugares;
+    for (const QMdiSubWindow* h : enOrden()) lugares.emplace(h->x(), h->y());
+    return std::to_string(lugares.size());
+  }
+  if (nombre == "menu") {  // whose menu bar the keys are in
+    for (const VentanaUi& v : ventanasUi())
+      if (const QMainWindow* vista = programa_.sistema.vista(v.nombre))
+        if (const auto* barra = qobject_cast<QMenuBar*>(vista->menuWidget()); barra != nullptr && barra->hasFocus())
+          s += barra->activeAction() != nullptr ? v.nombre : "nothing chosen";
+    return s;
+  }
+  if (nombre == "desplegado") {
+    const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    for (const QAction* a : menu == nullptr ? QList<QAction*>() : menu->actions())
+      if (!a->isSeparator()) s += (s.empty() ? "" : " | ") + std::string(a->isChecked() ? "*" : "") + deQt(a->text());
+    return s;
+  }
+  const auto [ventana, resto] = partidoEn(nombre, '.');
+  if (ventana == "estado") {
+    for (const CampoSingle& c : camposSingle())
+      if (c.nombre == resto) return texto(programa_.aplicacion.estado.*c.campo);
+  }
+  return deVentana(ventana, resto);
+}
+
+std::string Escena::deVentana(const std::string& ventana, const std::string& que) const {
+  const QMainWindow* vista = programa_.sistema.vista(ventana);
+  if (que.empty()) {
+    const QWidget* marco = programa_.sistema.marco(ventana);
+    return marco == nullptr ? noEsta : marco->isVisible() ? "a la vista" : "oculta";
+  }
+  if (vista == nullptr) return noEsta;
+  if (que == "marcados") return marcados(ventana);
+  if (que == "rotulos") {
+    std::string s;
+    for (const QLabel* l : vista->findChildren<QLabel*>()) s += deQt(l->text()) + "|";
+    return s;
+  }
+  const auto [nombre, propiedad] = partidoEn(que, '.');
+  const auto [control, celda] = partidoEn(nombre, '[');
+  QObject* o =
+      control == "width" || control == "height" ? programa_.sistema.vista(ventana) : objeto(ventana + "." + control);
+  if (o == nullptr) return noEsta;
+  if (auto* t = qobject_cast<QTableView*>(o); t != nullptr && !celda.empty()) {
+    const auto n = partido(celda, '[');
+    return deQt(t->model()->index(std::stoi(n.at(0)), std::stoi(n.at(1))).data().toString());
+  }
+  return deWidget(ventana, *o, o == vista ? control : propiedad);
+}
+
+/// What Qt or a screen reader tells of a widget.
+std::string Escena::deWidget(const std::string& ventana, QObject& o, const std::string& que) const {
+  auto* w = qobject_cast<QWidget*>(&o);
+  if (que == "hidden") return siNo(w->isHidden());
+  if (que == "fondo") return deQt(w->palette().color(QPalette::Base).name());
+  if (que == "indice") return std::to_string(w->parentWidget()->children().indexOf(w));
+  if (que == "dibujado")
+    return std::to_string(
+        programa_.aplicacion.cargada(ventana)->buscar<PictureBox>(deQt(o.objectName()))->lienzo.version());
+  if (que == "leido") {
+    auto* lector = QAccessible::queryAccessibleInterface(&o);
+    if (lector->textInterface() == nullptr || !lector->state().readOnly) return "no result";
+    EXPECT_EQ(lector->textInterface()->text(0, 200), lector->text(QAccessible::Value));
+    return deQt(lector->text(QAccessible::Name) + ": " + lector->text(QAccessible::Value));
+  }
+  QVariant v = o.property(que.empty() ? "text" : que.c_str());
+  if (que.empty() && !v.isValid()) v = o.property("currentText");
+  if (!v.isValid()) return "no property " + que;
+  return v.typeId() == QMetaType::Bool ? siNo(v.toBool()) : deQt(v.toString());
+}
+
+}  // namespace calvento

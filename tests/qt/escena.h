@@ -1,0 +1,52 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include <QMainWindow>
+#include <QMdiArea>
+
+#include "apoyo/carpeta_prueba.h"
+#include "apoyo/dialogos_guion.h"
+#include "qt/programa.h"
+
+namespace calvento {
+
+/// A scene on the real widgets: what is typed and pressed and what must then be seen, a line each, as
+/// tests/guiones/LEEME.md tells.
+class Escena {
+ public:
+  /// Plays it from a program just started, its About box gone.
+  explicit Escena(const std::vector<std::string>& lineas);
+
+ private:
+  /// The boxes of a script, which also note what is marked while an error message stands.
+  struct Cajas : DialogosGuion {
+    explicit Cajas(Escena& e) : escena(e) {}
+    void fallo(const std::string& texto) override;
+    Escena& escena;
+  };
+  void dar(const std::string& orden, const std::string& resto);
+  void teclear(const std::string& texto);
+  void tecla(const std::string& cual);
+  void raton(const std::string& donde);
+  void comprobar(const std::string& que);
+  /// The window system's windows and what belongs to them: "Form10", "Form10.Text5", "Form10.marco", "Form10.franja".
+  QObject* objeto(const std::string& nombre, const std::string& clase = {}) const;
+  /// What can be seen of a name: a widget's text, "Form10.Text5.toolTip", "foco", "orden"…
+  std::string valor(const std::string& nombre) const;
+  std::string deVentana(const std::string& ventana, const std::string& que) const;
+  std::string deWidget(const std::string& ventana, QObject& w, const std::string& que) const;
+  std::string marcados(const std::string& ventana) const;
+  std::vector<QMdiSubWindow*> enOrden() const;
+  std::string enFrente() const;
+
+  const CarpetaPrueba carpeta_;
+  std::map<std::string, std::string> notas_;
+  std::string hecho_, conLaCaja_;
+  Cajas cajas_{*this};
+  Programa programa_{cajas_};
+};
+
+}  // namespace calvento
