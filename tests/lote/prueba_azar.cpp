@@ -43,12 +43,15 @@ const Estructura estructuras[] = {{"rapida", formatoRapida, "Form2"},
 /// What an engineer could have typed; of inclined drops a third asks for the outlet of a steep canal, and the options
 /// of a vertical drop are set in the file or in its windows.
 Azaroso sensato(Azar& azar, const Estructura& e) {
-  const bool super = &e == &estructuras[1] && hasta(azar, 3) == 0;
+  const bool super = e.formato.extension == "cvi" && hasta(azar, 3) == 0;
   const char* inclinadas[] = {"11", "12", "14"};
-  Datos d = disenoAlAzar(azar, e.formato, super ? "13" : &e == &estructuras[1] ? inclinadas[hasta(azar, 3)] : "");
+  Datos d = disenoAlAzar(azar, e.formato,
+                         super                          ? "13"
+                         : e.formato.extension == "cvi" ? inclinadas[hasta(azar, 3)]
+                                                        : "");
   std::vector<Asignacion> campos;
   if (super) campos.push_back({"Form1", "mnsuper", "1"});
-  if (&e == &estructuras[2]) {
+  if (e.formato.extension == "cvv") {
     linea(d, "tipoTransVert") = std::to_string(hasta(azar, 2));
     linea(d, "tipoTanque") = std::to_string(hasta(azar, 2));
     if (hasta(azar, 3) == 0) campos.push_back({"Form16", hasta(azar, 2) == 0 ? "Option1" : "Option2", "1"});
