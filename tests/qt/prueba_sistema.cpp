@@ -9,35 +9,17 @@
 #include <QTest>
 #include <QTimer>
 
-#include "apoyo/dialogos_guion.h"
+#include "escritorio.h"
 #include "plataforma/ventana_datos.h"
 #include "qt/cadena.h"
 #include "qt/dialogos_qt.h"
-#include "qt/programa.h"
 #include "qt/textos_es.h"
 
 namespace calvento {
 namespace {
 
-/// The whole program, its main window on the screen and active.
-class EnElEscritorio : public testing::Test {
- protected:
-  void SetUp() override {
-    programa.aplicacion.arrancar();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return vista("frmAbout") != nullptr; }));  // above the painted main window
-  }
-  QMainWindow* vista(const char* nombre) { return programa.sistema.vista(nombre); }
-  void abrirEjemplo(const std::string& archivo) {
-    ASSERT_TRUE(programa.aplicacion.abrirProyecto(RAIZ_PROYECTO "/ejemplos/" + archivo));
-    QTest::qWait(5);
-  }
-  /// The boxes of the script stand outside: they outlive the program.
-  DialogosGuion dialogos;
-  Programa programa{dialogos};
-};
-
 TEST_F(EnElEscritorio, EscCierraTodoMenosLosDisenos) {
-  programa.aplicacion.descargar(*programa.aplicacion.cargada("frmAbout"));
+  quitarAcercaDe();
   ASSERT_TRUE(QTest::qWaitForWindowActive(vista("frmMain")));
   for (const char* diseno :
        {"21-vertical-sin-obstaculos.cvv", "11-inclinada-rectangular.cvi", "07-salto-bajo-usbr-i.cvr"})
@@ -71,7 +53,7 @@ TEST_F(EnElEscritorio, ArrancaEnLaPantallaConElAcercaDeYLoCierra) {
   QTest::mouseClick(acerca->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
   QTest::qWait(0);
   EXPECT_TRUE(acerca.isNull());
-  vista("frmMain")->findChild<QAction*>("mnacerca")->trigger();
+  elegir("frmMain", "mnacerca");
   EXPECT_TRUE(vista("frmAbout")->isVisible());
 }
 
