@@ -93,7 +93,7 @@ TEST(Publicados, AgreeAndStandInTheManual) {
   const std::pair<const char*, Cifras (*)(const Entrada&)> temas[] = {
       {"canal", canal}, {"salto", salto}, {"control", control}, {"inclinada", inclinada}, {"vertical", vertical}};
   for (const auto& [tema, programa] : temas)
-    porCadaFila("publicados.txt", tema, [&, calcular = programa](const Fila& f) {
+    porCadaFila("publicados.txt", tema, [&, calcular = programa](const FilaTabla& f) {
       Entrada entrada;
       for (const std::string& par : partido(f[1], ' '))
         entrada[par.substr(0, par.find('='))] = std::stod(par.substr(par.find('=') + 1));

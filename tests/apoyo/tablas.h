@@ -11,7 +11,7 @@
 namespace calvento {
 
 /// A row of a table of tests/tablas: its cells without the blanks around them.
-struct Fila {
+struct FilaTabla {
   std::string escrita;
   std::vector<std::string> celdas;
   const std::string& operator[](std::size_t i) const { return celdas.at(i); }
@@ -32,9 +32,9 @@ inline std::vector<std::string> partido(const std::string& s, char separador) {
 }
 
 /// The rows below "[seccion]" of a file of tests/tablas. Cells stand between bars; one in quotes keeps its blanks.
-inline std::vector<Fila> tabla(const std::string& archivo, const std::string& seccion) {
+inline std::vector<FilaTabla> tabla(const std::string& archivo, const std::string& seccion) {
   std::ifstream f(RAIZ_PROYECTO "/tests/tablas/" + archivo);
-  std::vector<Fila> filas;
+  std::vector<FilaTabla> filas;
   bool dentro = false;
   for (std::string l; std::getline(f, l);) {
     if (l.starts_with('[')) dentro = l == "[" + seccion + "]";
@@ -49,7 +49,7 @@ inline std::vector<Fila> tabla(const std::string& archivo, const std::string& se
 
 template <class F>
 void porCadaFila(const std::string& archivo, const std::string& seccion, F f) {
-  for (const Fila& fila : tabla(archivo, seccion)) {
+  for (const FilaTabla& fila : tabla(archivo, seccion)) {
     SCOPED_TRACE(fila.escrita);
     f(fila);
   }
@@ -89,7 +89,7 @@ inline void ponerCampos(DesignState& e, const std::string& cambios) {
 /// A record of round numbers of tests/tablas/registros.txt; where it says "como otro" it is that one with the rest.
 inline DesignState registro(const std::string& nombre, const std::string& cambios = {}) {
   DesignState e;
-  for (const Fila& f : tabla("registros.txt", nombre))
+  for (const FilaTabla& f : tabla("registros.txt", nombre))
     f.escrita.starts_with("como ") ? void(e = registro(f.escrita.substr(5))) : ponerCampos(e, f.escrita);
   ponerCampos(e, cambios);
   return e;

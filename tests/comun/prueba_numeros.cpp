@@ -23,7 +23,7 @@ std::string resultado(const std::function<Real()>& f) {
 
 TEST(Numeros, AreReadAndWrittenAsTheTablesTell) {
   const auto cada = [](const char* seccion, auto f) { porCadaFila("numeros.txt", seccion, f); };
-  cada("Val", [](const Fila& f) {
+  cada("Val", [](const FilaTabla& f) {
     if (f[1] == "falla")
       EXPECT_THROW(Val(f[0]), FalloAritmetico);
     else
@@ -31,20 +31,20 @@ TEST(Numeros, AreReadAndWrittenAsTheTablesTell) {
   });
   EXPECT_EQ(Val("\t 7 8").valor(), 7);
   EXPECT_TRUE(esNumero(" -3\t"));
-  cada("esNumero", [](const Fila& f) { EXPECT_EQ(esNumero(f[0]), f.si(1)); });
-  cada("conPuntoDecimal", [](const Fila& f) { EXPECT_EQ(conPuntoDecimal(f[0]), f[1]); });
+  cada("esNumero", [](const FilaTabla& f) { EXPECT_EQ(esNumero(f[0]), f.si(1)); });
+  cada("conPuntoDecimal", [](const FilaTabla& f) { EXPECT_EQ(conPuntoDecimal(f[0]), f[1]); });
   const std::string larguisimo(1 << 20, '1');
   EXPECT_EQ(conPuntoDecimal(larguisimo + ",5"), larguisimo + ".5");
-  cada("Round", [](const Fila& f) { EXPECT_EQ(Round(Real(f.num(0)), std::stoi(f[1])).valor(), f.num(2)); });
+  cada("Round", [](const FilaTabla& f) { EXPECT_EQ(Round(Real(f.num(0)), std::stoi(f[1])).valor(), f.num(2)); });
   EXPECT_EQ(enRejilla(Real(0.975)).valor(), 0.05 * 20);  // 19.5 steps: the even 20
   EXPECT_EQ(Round(Single(2.34567), 3).valor(), 2.346F);
-  cada("texto", [](const Fila& f) { EXPECT_EQ(texto(Real(f.num(0))), f[1]); });
-  cada("texto de 4 bytes", [](const Fila& f) { EXPECT_EQ(texto(Single(f.num(0))), f[1]); });
-  cada("formato", [](const Fila& f) { EXPECT_EQ(formato(f.num(0), f[1]), f[2]); });
+  cada("texto", [](const FilaTabla& f) { EXPECT_EQ(texto(Real(f.num(0))), f[1]); });
+  cada("texto de 4 bytes", [](const FilaTabla& f) { EXPECT_EQ(texto(Single(f.num(0))), f[1]); });
+  cada("formato", [](const FilaTabla& f) { EXPECT_EQ(formato(f.num(0), f[1]), f[2]); });
 }
 
 TEST(Real, FailsInTheStatementThatHasNoResult) {
-  porCadaFila("numeros.txt", "Real", [](const Fila& f) {
+  porCadaFila("numeros.txt", "Real", [](const FilaTabla& f) {
     std::istringstream palabras(f[0]);
     double a = 0, b = 0;
     std::string que;

@@ -46,7 +46,7 @@ Contorno contorno(const std::string& figura, DesignState& e, const std::string& 
 }
 
 TEST(Contornos, AreTheHandWorkedOnes) {
-  porCadaFila("contornos.txt", "contornos", [](const Fila& f) {
+  porCadaFila("contornos.txt", "contornos", [](const FilaTabla& f) {
     std::string cambios = f[1];
     MinimoBloques minimo;
     if (const auto i = cambios.find("minimo="); i != std::string::npos) {

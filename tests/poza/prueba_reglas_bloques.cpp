@@ -21,7 +21,7 @@ TEST(ReglasBloques, CountsTakeTheEvenOneAtATie) {
   const DesignState e = pozaDeMano();
   const std::map<std::string, Tanque> tanques = {
       {"usbr1", Tanque::usbr1}, {"usbr2", Tanque::usbr2}, {"usbr3", Tanque::usbr3}, {"saf", Tanque::saf}};
-  porCadaFila("poza.txt", "numero de bloques", [&](const Fila& f) {
+  porCadaFila("poza.txt", "numero de bloques", [&](const FilaTabla& f) {
     const DatosBloques d{e, f.num(2), {}};
     const Tanque t = tanques.at(f[0]);
     EXPECT_EQ((f[1] == "rampa" ? bloquesDeRampa(t, d) : *bloquesDePiso(t, d)).numero.valor(), f.num(3));
@@ -73,7 +73,7 @@ struct HojasDeBloques : testing::Test {
 };
 
 TEST_F(HojasDeBloques, TheFloorOfHeightsChangesTheCountToo) {
-  porCadaFila("poza.txt", "minimo", [&](const Fila& f) {
+  porCadaFila("poza.txt", "minimo", [&](const FilaTabla& f) {
     e.y1 = f.num(0);
     form2.Check1.Value = f.si(1);
     form2.Text11.Text = f[2];

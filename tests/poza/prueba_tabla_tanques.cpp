@@ -24,7 +24,7 @@ Single numero(const std::string& s) {
 }
 
 TEST(BasinTable, AtTheLimitsOfEachType) {
-  porCadaFila("poza.txt", "tabla", [](const Fila& f) {
+  porCadaFila("poza.txt", "tabla", [](const FilaTabla& f) {
     Mesa m;
     for (int fila = 1; fila < 7; ++fila) m.tabla.poner(fila, 3, "of the calculation before");
     m.e.fr1 = numero(f[0]), m.e.v1 = numero(f[1]), m.e.Q = numero(f[2]), m.e.y1 = 0.31254;
@@ -55,7 +55,7 @@ TEST(BasinTable, ItsColoursAndWidths) {
 }
 
 TEST(BasinLength, ByClickOnTheGridOfTheWorksAndByCalculationOffIt) {
-  porCadaFila("poza.txt", "longitud", [](const Fila& f) {
+  porCadaFila("poza.txt", "longitud", [](const FilaTabla& f) {
     const int tipo = std::stoi(f[0]);
     const double longitud = f.num(1);
     for (const bool rapida : {true, false}) {

@@ -16,7 +16,7 @@ NumerosOndas rectangulo(double b, double y, double v, double X, double perdida) 
 }
 
 TEST(NumerosDeOndas, CanalAnchoRectangular) {
-  porCadaFila("reportes.txt", "ondas", [](const Fila& f) {
+  porCadaFila("reportes.txt", "ondas", [](const FilaTabla& f) {
     const double y = f.num(0), v = f.num(1), X = f.num(2), J = f.num(3), coseno = 1 / std::sqrt(1 + J * J);
     const NumerosOndas n = rectangulo(1e7, y, v, X, J * X);
     EXPECT_NEAR(n.Nv.valor(), 2.0 / 3 * v / std::sqrt(9.81 * y * coseno), 1e-6);

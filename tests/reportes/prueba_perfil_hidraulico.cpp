@@ -9,7 +9,7 @@ namespace calvento {
 namespace {
 
 TEST(TiranteConAire, PorNumeroDeFroude) {
-  porCadaFila("reportes.txt", "aire", [](const Fila& f) {
+  porCadaFila("reportes.txt", "aire", [](const FilaTabla& f) {
     EXPECT_NEAR(YA(0.4, f.num(0) * std::sqrt(9.81 * 0.4), 2, 0).valor(), 0.4 * f.num(1), 1e-5);
   });
 

@@ -25,7 +25,7 @@ std::vector<std::string> tablaDe(Real X) {
 }
 
 TEST(TablaTrayectoria, FilasYPasoSegunLaLongitud) {
-  porCadaFila("reportes.txt", "trayectoria", [](const Fila& f) {
+  porCadaFila("reportes.txt", "trayectoria", [](const FilaTabla& f) {
     const auto filas = tablaDe(f.num(0));
     EXPECT_EQ(filas.size(), std::stoul(f[1]));
     EXPECT_TRUE(std::any_of(filas.begin(), filas.end(), [&](const auto& l) { return l.starts_with(f[2]); }));
