@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -90,6 +91,14 @@ void Escena::dar(const std::string& orden, const std::string& resto) {
   } else if (orden == "espia") {
     const auto [ventana, control] = partidoEn(resto, '.');
     a.cargada(ventana)->buscar<Menu>(control)->Click = [this, quien = control] { hecho_ += quien + " "; };
+  } else if (orden == "banco") {
+    banco_ = std::make_unique<BancoEnPantalla>();
+  } else if (orden == "enlaza") {
+    banco_->enlazar();
+  } else if (orden == "programa") {
+    programa(primero, demas);
+  } else if (orden == "espera") {
+    QTest::qWait(std::stoi(primero));
   } else if (orden == "teclea") {
     teclear(resto);
   } else if (orden == "tecla") {
@@ -113,6 +122,15 @@ void Escena::dar(const std::string& orden, const std::string& resto) {
     w->setFocus();
     qobject_cast<QLineEdit*>(w)->selectAll();
     demas.empty() ? QTest::keyClick(w, Qt::Key_Delete) : QTest::keyClicks(w, aQt(demas));
+  } else if (auto* campo = qobject_cast<QLineEdit*>(w); orden == "pega") {
+    QGuiApplication::clipboard()->setText(aQt(demas));
+    campo->setFocus();
+    campo->selectAll();
+    campo->paste();
+  } else if (orden == "arroba") {  // by the key beside the space bar of a Spanish keyboard
+    campo->selectAll();
+    QKeyEvent arroba(QEvent::KeyPress, Qt::Key_At, Qt::GroupSwitchModifier, "@");
+    QCoreApplication::sendEvent(campo, &arroba);
   } else {
     FAIL() << "no such order";
   }
@@ -126,12 +144,12 @@ void Escena::teclear(const std::string& texto) {
     if (QWidget* menu = QApplication::activePopupWidget())
       QTest::keyClick(menu, c);
     else
-      QTest::keyClick(programa_.sistema.vista("frmMain")->windowHandle(), c);
+      QTest::keyClick(vista(banco_ ? "Banco" : "frmMain")->windowHandle(), c);
   }
 }
 
 void Escena::tecla(const std::string& cual) {
-  QWindow* w = programa_.sistema.vista("frmMain")->windowHandle();
+  QWindow* w = vista(banco_ ? "Banco" : "frmMain")->windowHandle();
   if (cual == "Alt") {
     QTest::keyPress(w, Qt::Key_Alt, Qt::AltModifier);
     QTest::keyRelease(w, Qt::Key_Alt);
@@ -189,13 +207,38 @@ void Escena::comprobar(const std::string& que) {
   }
 }
 
+QMainWindow* Escena::vista(const std::string& nombre) const {
+  return nombre == "Banco" && banco_ ? &banco_->vista : programa_.sistema.vista(nombre);
+}
+
+/// A property of the control as a program sets it: "Text2.Enabled" of the bench.
+void Escena::programa(const std::string& propiedad, const std::string& texto) {
+  Banco& v = banco_->v;
+  const auto [nombre, cual] = partidoEn(propiedad, '.');
+  if (nombre == "Banco") v.Caption = texto;
+  Control* c = v.buscar(nombre);
+  if (cual == "Enabled") c->Enabled = texto == "sí";
+  if (cual == "Visible") c->Visible = texto == "sí";
+  if (cual == "ToolTipText") c->ToolTipText = texto;
+  if (cual == "Text") v.buscar<TextBox>(nombre)->Text = texto;
+  if (propiedad == "Label1.Caption") v.Label1.Caption = texto;
+  if (cual == "Panel1") v.Barra.Panel1 = texto;
+  if (cual == "Max") v.Bar1.Max = std::stod(texto);
+  if (propiedad == "Bar1.Value") v.Bar1.Value = std::stod(texto);
+  if (propiedad == "Option2.Value") v.Option2.Value = texto == "sí";
+  if (propiedad == "Check1.Value") v.Check1.Value = texto == "sí";
+  if (cual == "List") v.Combo1.List = partido(texto, '/');
+  if (cual == "ListIndex") v.Combo1.ListIndex = std::stoi(texto);
+}
+
 QObject* Escena::objeto(const std::string& nombre, const std::string& clase) const {
   const auto [ventana, resto] = partidoEn(nombre, '.');
-  QMainWindow* vista = programa_.sistema.vista(ventana);
-  if (vista == nullptr || resto.empty()) return vista;
+  QMainWindow* suya = vista(ventana);
+  if (suya == nullptr || resto.empty() || ventana == "Banco")
+    return suya == nullptr || resto.empty() ? suya : suya->findChild<QObject*>(aQt(resto));
   QWidget* marco = programa_.sistema.marco(ventana);
   if (resto == "marco") return marco;
-  if (resto != "franja") return vista->findChild<QObject*>(aQt(resto));
+  if (resto != "franja") return suya->findChild<QObject*>(aQt(resto));
   const auto* franja = marco->findChild<QWidget*>("franja");
   if (franja == nullptr || !franja->isVisible()) return nullptr;
   return clase.empty() ? static_cast<QObject*>(franja->findChild<QLabel*>()) : franja->findChild<QPushButton*>();
@@ -230,7 +273,7 @@ std::string Escena::marcados(const std::string& ventana) const {
 
 std::string Escena::valor(const std::string& nombre) const {
   std::string s;
-  if (nombre == "hecho") return sinBlancos(hecho_);
+  if (nombre == "hecho") return sinBlancos(banco_ ? banco_->v.hecho : hecho_);
   if (nombre == "conLaCaja") return conLaCaja_;
   if (nombre == "enfrente") return enFrente();
   if (nombre == "foco") {
@@ -270,28 +313,28 @@ std::string Escena::valor(const std::string& nombre) const {
 }
 
 std::string Escena::deVentana(const std::string& ventana, const std::string& que) const {
-  const QMainWindow* vista = programa_.sistema.vista(ventana);
+  QMainWindow* suya = vista(ventana);
   if (que.empty()) {
     const QWidget* marco = programa_.sistema.marco(ventana);
     return marco == nullptr ? noEsta : marco->isVisible() ? "a la vista" : "oculta";
   }
-  if (vista == nullptr) return noEsta;
+  if (suya == nullptr) return noEsta;
   if (que == "marcados") return marcados(ventana);
   if (que == "rotulos") {
     std::string s;
-    for (const QLabel* l : vista->findChildren<QLabel*>()) s += deQt(l->text()) + "|";
+    for (const QLabel* l : suya->findChildren<QLabel*>()) s += deQt(l->text()) + "|";
     return s;
   }
   const auto [nombre, propiedad] = partidoEn(que, '.');
   const auto [control, celda] = partidoEn(nombre, '[');
-  QObject* o =
-      control == "width" || control == "height" ? programa_.sistema.vista(ventana) : objeto(ventana + "." + control);
+  const bool dePropia = control == "width" || control == "height" || control == "windowTitle";
+  QObject* o = dePropia ? suya : objeto(ventana + "." + control);
   if (o == nullptr) return noEsta;
   if (auto* t = qobject_cast<QTableView*>(o); t != nullptr && !celda.empty()) {
     const auto n = partido(celda, '[');
     return deQt(t->model()->index(std::stoi(n.at(0)), std::stoi(n.at(1))).data().toString());
   }
-  return deWidget(ventana, *o, o == vista ? control : propiedad);
+  return deWidget(ventana, *o, dePropia ? control : propiedad);
 }
 
 /// What Qt or a screen reader tells of a widget.
@@ -300,6 +343,10 @@ std::string Escena::deWidget(const std::string& ventana, QObject& o, const std::
   if (que == "hidden") return siNo(w->isHidden());
   if (que == "fondo") return deQt(w->palette().color(QPalette::Base).name());
   if (que == "indice") return std::to_string(w->parentWidget()->children().indexOf(w));
+  if (que == "marcado")
+    return siNo(w->palette().color(QPalette::Base) != vista(ventana)->palette().color(QPalette::Base));
+  if (que == "Text") return banco_->v.buscar<TextBox>(deQt(o.objectName()))->Text;
+  if (que == "SelLength") return std::to_string(banco_->v.buscar<TextBox>(deQt(o.objectName()))->SelLength);
   if (que == "dibujado")
     return std::to_string(
         programa_.aplicacion.cargada(ventana)->buscar<PictureBox>(deQt(o.objectName()))->lienzo.version());

@@ -9,6 +9,7 @@
 
 #include "apoyo/carpeta_prueba.h"
 #include "apoyo/dialogos_guion.h"
+#include "banco.h"
 #include "qt/programa.h"
 
 namespace calvento {
@@ -31,6 +32,9 @@ class Escena {
   void teclear(const std::string& texto);
   void tecla(const std::string& cual);
   void raton(const std::string& donde);
+  void programa(const std::string& propiedad, const std::string& texto);
+  /// The window of that name: a program's, or the one with a control of each kind.
+  QMainWindow* vista(const std::string& nombre) const;
   void comprobar(const std::string& que);
   /// The window system's windows and what belongs to them: "Form10", "Form10.Text5", "Form10.marco", "Form10.franja".
   QObject* objeto(const std::string& nombre, const std::string& clase = {}) const;
@@ -47,6 +51,7 @@ class Escena {
   std::string hecho_, conLaCaja_;
   Cajas cajas_{*this};
   Programa programa_{cajas_};
+  std::unique_ptr<BancoEnPantalla> banco_;
 };
 
 }  // namespace calvento
