@@ -2,10 +2,8 @@
 #include <cmath>
 #include <map>
 
-#include "apoyo/mesa_rapida.h"
+#include "apoyo/mesas.h"
 #include "apoyo/tablas.h"
-#include "caida_inclinada/mesa_inclinada.h"
-#include "caida_vertical/mesa_vertical.h"
 #include "hidraulica/flujo.h"
 #include "hidraulica/salto.h"
 
@@ -62,7 +60,7 @@ Cifras control(const Entrada& d) {
 
 Cifras inclinada(const Entrada& d) {
   MesaInclinadaDe<DialogosLibres> m;
-  m.poner(inclinadaSubcritica());
+  m.poner(datosDe("inclinada"));
   ponerDatos(m, d, {{"Text5", "Q"}, {"Text6", "b"}, {"Text7", "z"}, {"Text8", "n"}, {"Text9", "S"}});
   m.f.Command6.Click();
   const Real ancho = Val(m.f.Text23.Text);
@@ -74,7 +72,7 @@ Cifras inclinada(const Entrada& d) {
 
 Cifras vertical(const Entrada& d) {
   MesaVerticalDe<DialogosLibres> m;
-  m.poner(verticalDeLateral());
+  m.poner(datosDe("vertical"));
   ponerDatos(m, d, {{"Text5", "Q"}, {"Text23", "B"}, {"Text2", "h"}});
   m.f.Text4.Text = "0";
   m.f.Command3.Click();

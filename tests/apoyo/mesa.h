@@ -16,7 +16,7 @@
 
 namespace calvento {
 
-using Datos = std::vector<std::pair<std::string_view, std::string>>;
+using Datos = std::vector<std::pair<std::string, std::string>>;
 
 /// Notes every message and answers every question with Yes.
 class DialogosLibres : public Dialogos {

@@ -3,7 +3,7 @@
 
 #include "apoyo/disenos_al_azar.h"
 #include "apoyo/seccion_desnuda.h"
-#include "caida_inclinada/mesa_inclinada.h"
+#include "apoyo/mesas.h"
 
 namespace calvento {
 namespace {

@@ -1,5 +1,4 @@
-#include "apoyo/mesa_rapida.h"
-#include "caida_inclinada/mesa_inclinada.h"
+#include "apoyo/mesas.h"
 
 namespace calvento {
 namespace {
@@ -10,7 +9,7 @@ constexpr const char* avisoPendiente = "LA PENDIENTE DEL CANAL DEBE SER MAYOR O 
 
 TEST(InclinedDropWindow, AtAFroudeNumberOfOneTheCalculationTakesTheControlSection) {
   MesaInclinada m;
-  m.poner(inclinadaSubcritica());
+  m.poner(datosDe("inclinada"));
   m.poner({{"Text7", "0"}, {"Text8", "0.035"}, {"Text23", "1.4"}});
   m.f.Grid1.pulsar(3);
   buscarFroudeUno(m);
@@ -34,14 +33,14 @@ TEST(InclinedDropWindow, AtAFroudeNumberOfOneTheCalculationTakesTheControlSectio
 
 TEST(InclinedDropWindow, ASmallRadiusIsBuiltAsFifteenCentimetresAndTheVelocityJudgesNoBasin) {
   MesaInclinada m;
-  m.poner(inclinadaRapida());
+  m.poner(datosDe("inclinada rapida"));
   m.poner({{"Text5", "0.1"}, {"Text9", "0.0191"}, {"Text8", "0.02"}});
   m.f.Grid1.pulsar(3);
   m.f.Command3.Click();
   EXPECT_LT(m.valor(&D::yFin) / std::expm1(1.5 / std::pow(m.valor(&D::frArriba), 2)), 0.12);
   EXPECT_FLOAT_EQ(m.estado.radioCurva.valor(), 0.15F);
 
-  m.poner(inclinadaSubcritica());
+  m.poner(datosDe("inclinada"));
   m.f.Text4.Text = "1800";
   m.dialogos.responde(true);
   m.f.Command3.Click();
@@ -64,7 +63,7 @@ class DialogosMirones : public DialogosLibres {
 
 TEST(InclinedDropWindow, EachPassAsksForTheTypeAndTheSecondRunStartsFromTheRoundedSubmergence) {
   MesaInclinadaDe<DialogosMirones> m;
-  m.poner(inclinadaRapida());
+  m.poner(datosDe("inclinada rapida"));
   m.estado.longPoza = 2;  // of another structure: without a type it stays
   m.f.mnsuper.Click();
   std::vector<std::pair<float, float>> pasadas;  // submergence and outlet in force
@@ -95,7 +94,7 @@ TEST(InclinedDropWindow, ItsRecordAndItsParameterWindowAreSharedWithTheChute) {
   NavegadorMudo& nav = m.navegador;
   Form10 rapida(m.estado, m.parametros, m.dialogos, nav);
   EXPECT_EQ(m.parametros.Label30.Caption.valor(), "En canal rápida:") << "the last one loaded names the field";
-  MesaInclinada::ponerEn(rapida, rapidaDeUnTramo());
+  MesaInclinada::ponerEn(rapida, datosDe("rapida de un tramo"));
   rapida.Grid1.pulsar(3);
   m.parametros.Text6.Text = "0.5";
   m.parametros.Text8.Text = "0.1";
@@ -105,7 +104,7 @@ TEST(InclinedDropWindow, ItsRecordAndItsParameterWindowAreSharedWithTheChute) {
   EXPECT_NEAR(m.valor(&D::hAbajo), m.valor(&D::ynAbajo) + 0.5, 0.0251);
 
   const DesignState antes = m.estado;
-  m.poner(inclinadaSubcritica());
+  m.poner(datosDe("inclinada"));
   m.f.Command3.Click();
   ASSERT_TRUE(m.f.calculado()) << "with the basin type of the chute";
   EXPECT_NEAR(m.valor(&D::hRapida), (m.valor(&D::yFin) + m.valor(&D::y1)) / 2 + 0.5, 0.0251);

@@ -3,7 +3,7 @@
 
 #include "apoyo/disenos_al_azar.h"
 #include "apoyo/seccion_desnuda.h"
-#include "caida_vertical/mesa_vertical.h"
+#include "apoyo/mesas.h"
 
 namespace calvento {
 namespace {
@@ -141,7 +141,7 @@ TEST(VerticalDrop, PipesCarryTheAirOfTheNappe) {
     for (const char* longitud : {"0.5", "2", "12"}) {
       for (const int pulgadas : {0, 2, 4}) {
         MesaLibre m;
-        m.poner(verticalDeLateral());
+        m.poner(datosDe("vertical"));
         m.parametros.Combo1.List = std::vector<std::string>{"Tubería de PVC", "Tubería de Fierro", "otra"};
         m.parametros.Combo1.ListIndex = static_cast<int>(&mat - materiales);
         m.parametros.Combo2.ListIndex = pulgadas;
@@ -159,7 +159,7 @@ TEST(VerticalDrop, PipesCarryTheAirOfTheNappe) {
 
 TEST(VerticalDrop, TiesOfTheNumberOfPipesGoToTheEvenNumberAndOneMore) {
   MesaLibre m;
-  m.poner(verticalDeLateral());
+  m.poner(datosDe("vertical"));
   m.f.Command3.Click();
   DesignState e = m.estado;
   for (const auto& [razon, tubos] : {std::pair{1.5, 3}, {2.5, 3}, {2.5001, 4}, {3.4999, 4}, {3.5, 5}, {4.5, 5}}) {

@@ -1,35 +1,22 @@
-#include <gtest/gtest.h>
-
+#include "apoyo/tablas.h"
 #include "dibujo/vista.h"
 
 namespace calvento {
 namespace {
 
 TEST(Vista, EscalaEnsanchaElLadoQueFaltaYNuncaDeforma) {
-  const struct {
-    const char* que;
-    int ancho, alto;  // of the box
-    Vista pedida;
-    double x1, x2, y1, y2;  // shown
-  } casos[] = {
-      {"tall: X widens about its centre", 800, 400, {0, 2, 100, 110}, -9, 11, 100, 110},
-      {"wide: Y widens about its centre", 800, 400, {0, 40, 100, 101}, 0, 40, 90.5, 110.5},
-      {"of the box's proportions", 800, 400, {-4, 4, 10, 14}, -4, 4, 10, 14},
-      {"no height at all", 800, 400, {0, 8, 100, 100}, 0, 8, 98, 102},
-      {"a tall box", 200, 800, {0, 2, 50, 51}, 0, 2, 46.5, 54.5},
-  };
-  for (const auto& c : casos) {
+  porCadaFila("vistas.txt", "escala", [](const Fila& f) {
     DesignState e;
-    Lienzo l(c.ancho, c.alto);
-    fijarVista(e, c.pedida);
+    Lienzo l(std::stoi(f[1]), std::stoi(f[2]));
+    fijarVista(e, {f.num(3), f.num(4), f.num(5), f.num(6)});
     Escala(e, l);
-    EXPECT_NEAR(l.ScaleLeft(), c.x1, 1e-5) << c.que;
-    EXPECT_NEAR(l.ScaleLeft() + l.ScaleWidth(), c.x2, 1e-5) << c.que;
-    EXPECT_NEAR(l.ScaleTop(), c.y2, 1e-5) << c.que;
-    EXPECT_NEAR(l.ScaleTop() + l.ScaleHeight(), c.y1, 1e-5) << c.que;
-    EXPECT_FLOAT_EQ(e.vistaX1.valor(), static_cast<float>(c.x1)) << c.que;
-    EXPECT_FLOAT_EQ(e.vistaY2.valor(), static_cast<float>(c.y2)) << c.que;
-  }
+    const double son[] = {l.ScaleLeft(), l.ScaleLeft() + l.ScaleWidth(), l.ScaleTop() + l.ScaleHeight(), l.ScaleTop()};
+    const Single guardadas[] = {e.vistaX1, e.vistaX2, e.vistaY1, e.vistaY2};
+    for (std::size_t i = 0; i < 4; ++i) {
+      EXPECT_NEAR(son[i], f.num(7 + i), 1e-5) << i;
+      EXPECT_FLOAT_EQ(guardadas[i].valor(), static_cast<float>(f.num(7 + i))) << i;
+    }
+  });
 }
 
 TEST(Vista, UnaVistaSinAnchoFallaYLaEscalaSeQueda) {

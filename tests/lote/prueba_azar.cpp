@@ -3,10 +3,12 @@
 #include <ctime>
 #include <gtest/gtest.h>
 #include <random>
+#include <set>
 #include <tuple>
 
 #include "apoyo/disenos_al_azar.h"
 #include "corrida.h"
+#include "dibujo/marco_dibujo.h"
 #include "lote/sesion.h"
 
 namespace calvento::lote {
@@ -15,8 +17,8 @@ namespace {
 /// How many random projects in all.
 int cuantos() { return cuantosAlAzar(2000, 1); }
 
-/// Seconds of processor time that one project may take, opening and all presses.
-constexpr double limite = limiteSegundos(0.2, 8);
+/// Seconds of processor time that one project may take: opening, all presses, all windows.
+constexpr double limite = limiteSegundos(0.5, 10);
 std::size_t hasta(Azar& azar, std::size_t n) { return azar() % n; }
 
 std::string numero(double x, int decimales) {
@@ -35,10 +37,11 @@ struct Estructura {
   const char* nombre;
   const FormatoProyecto& formato;
   const char* parametros;
+  std::vector<const char*> informes;  ///< windows that a finished design opens
 };
-const Estructura estructuras[] = {{"rapida", formatoRapida, "Form2"},
-                                  {"inclinada", formatoCaidaInclinada, "Form2"},
-                                  {"vertical", formatoCaidaVertical, "Form25"}};
+const Estructura estructuras[] = {{"rapida", formatoRapida, "Form2", {"Form11", "Form6", "Form3", "Form19"}},
+                                  {"inclinada", formatoCaidaInclinada, "Form2", {"Form7", "Form4", "Form20"}},
+                                  {"vertical", formatoCaidaVertical, "Form25", {"Form26", "Form17", "Form24"}}};
 
 /// What an engineer could have typed; of inclined drops a third asks for the outlet of a steep canal, and the options
 /// of a vertical drop are set in the file or in its windows.
@@ -114,6 +117,20 @@ void PrintTo(const Estructura& e, std::ostream* salida) { *salida << e.nombre; }
 using Caso = std::tuple<Clase, Estructura>;
 std::string nombre(const Caso& caso) { return std::string(std::get<1>(caso).nombre) + "_" + std::get<0>(caso).nombre; }
 
+/// Opens every result window on what the session left, and works the drawings; returns those that opened.
+std::set<std::string> abrirTodo(Sesion& sesion) {
+  Aplicacion& a = sesion.aplicacion();
+  std::set<std::string> abiertas;
+  for (const char* n : {"Form11", "Form6", "Form8", "Form13", "Form7", "Form26", "Form3", "Form4", "Form17", "Form19",
+                        "Form20", "Form24", "Form5", "Form21", "Form22", "Form23"}) {
+    a.mostrar(n);
+    if (a.cargada(n) != nullptr) abiertas.insert(n);
+    if (auto* dibujo = dynamic_cast<MarcoDibujo*>(a.cargada(n)))
+      for (const std::string& clave : dibujo->Toolbar1.claves()) dibujo->Toolbar1.ButtonClick(clave);
+  }
+  return abiertas;
+}
+
 class ProyectosAlAzar : public testing::TestWithParam<Caso> {};
 
 TEST_P(ProyectosAlAzar, EndInTimeCalculatedOrWithAMessage) {
@@ -146,12 +163,21 @@ TEST_P(ProyectosAlAzar, EndInTimeCalculatedOrWithAMessage) {
     const std::clock_t antes = std::clock();
     // an exception that leaves the session is a fault too
     ASSERT_NO_THROW({
-      const Sesion sesion(opciones, archivo);
+      Sesion sesion(opciones, archivo);
+      const bool calculado = sesion.calculado();
+      const bool dicho = !sesion.mensajes().empty();
+      if (i % 4 == 0) {
+        const auto abiertas = abrirTodo(sesion);
+        EXPECT_TRUE(abiertas.contains("Form13")) << "it opens whatever its data " << que();
+        if (calculado && !clase.conRaros) {
+          for (const char* suya : estructura.informes) EXPECT_TRUE(abiertas.contains(suya)) << suya << que();
+        }
+      }
       const double segundos = static_cast<double>(std::clock() - antes) / CLOCKS_PER_SEC;
       peor = std::max(peor, segundos);
       EXPECT_LT(segundos, limite) << que();
-      EXPECT_TRUE(sesion.calculado() || !sesion.mensajes().empty()) << "silent " << que();
-      if (sesion.calculado()) {
+      EXPECT_TRUE(calculado || dicho) << "silent " << que();
+      if (calculado) {
         ++calculados;
         EXPECT_TRUE(sesion.ventana()->buscar<Menu>("mngrafico")->Enabled) << que();
       }

@@ -64,7 +64,11 @@ class Escena {
     const auto obrar = [&] {
       if (paso.contains("base")) ponerTodo(datos_[paso["base"].get<std::string>()]);
       if (paso.contains("pon")) ponerTodo(paso["pon"]);
-      if (paso.contains("proyecto")) programa_.abrirProyecto(paso["proyecto"]);
+      if (paso.contains("proyecto")) {
+        const std::string archivo = paso["proyecto"];
+        programa_.abrirProyecto(archivo.starts_with("ejemplos/") ? RAIZ_PROYECTO "/" + archivo : archivo);
+      }
+      if (paso.contains("muestra")) programa_.mostrar(paso["muestra"].get<std::string>());
       if (paso.contains("pulsa")) pulsar(paso["pulsa"]);
     };
     if (paso.contains("escritos"))
@@ -124,6 +128,10 @@ class Escena {
     if (auto* b = dynamic_cast<CommandButton*>(c)) return disparar(b->Click);
     if (auto* m = dynamic_cast<Menu*>(c)) return disparar(m->Click);
     if (auto* f = dynamic_cast<UpDown*>(c)) return como == "sube" ? f->subir() : f->bajar();
+    if (auto* t = dynamic_cast<Toolbar*>(c); t != nullptr && como == "*") {
+      for (const std::string& clave : t->claves()) t->ButtonClick(clave);
+      return t->ButtonClick("otra");
+    }
     if (auto* t = dynamic_cast<Toolbar*>(c)) return t->ButtonClick(como);
     if (auto* g = dynamic_cast<Grid*>(c)) return g->pulsar(std::stoi(como));
     ADD_FAILURE() << nombre << " cannot be pressed";
@@ -150,6 +158,7 @@ class Escena {
     if (que == "Panel1") return ventana_->buscar<StatusBar>("sbStatusBar")->Panel1.valor();
     if (que == "Nota") return ventana_->buscar<StatusBar>("sbStatusBar")->Nota.valor();
     if (que == "menus" || que == "llenos") return lista(que == "menus");
+    if (que == "rotulos") return rotulos();
     const auto [v, nombre] = donde(que);
     const std::size_t fin = std::min(nombre.find('['), nombre.find('.'));
     Control* c = v->buscar(nombre.substr(0, fin));
@@ -167,6 +176,17 @@ class Escena {
     for (const Control* c : ventana_->controles())
       if (const auto* t = dynamic_cast<const TextBox*>(c); !menus && t != nullptr && !t->Text.valor().empty())
         s.append(s.empty() ? "" : " ").append(t->nombre());
+    return s;
+  }
+
+  /// The captions in sight, each with the field of its number.
+  std::string rotulos() {
+    std::string s;
+    for (const Control* c : ventana_->controles())
+      if (const auto* l = dynamic_cast<const Label*>(c)) {
+        EXPECT_EQ(ventana_->buscar("Text" + l->nombre().substr(5))->Visible, l->Visible) << l->nombre();
+        if (l->Visible) s += l->Caption.valor() + "|";
+      }
     return s;
   }
 
@@ -200,6 +220,24 @@ class Escena {
   Aplicacion programa_{dialogos_, sistema_};
   Ventana* ventana_;
 };
+
+TEST(Ventanas, EachIsOneForTheWholeRun) {
+  DialogosGuion dialogos;
+  Sistema sistema;
+  Aplicacion a(dialogos, sistema);
+  a.arrancar();
+  EXPECT_EQ(sistema.llamadas, (std::vector<std::string>{"presentar frmMain", "presentar frmAbout"}));
+  a.abrirProyecto(RAIZ_PROYECTO "/ejemplos/04-tres-tramos.cvr");  // reports need a design
+  a.estado.bEntradaCaida = a.estado.bPozaCaida = 2;               // and those of the drops what only these have
+  for (const std::string_view nombre : a.nombres()) {
+    Ventana* v = a.cargar(nombre);
+    ASSERT_NE(v, nullptr) << nombre;
+    a.mostrar(nombre);
+    EXPECT_EQ(a.cargada(nombre), v) << nombre;
+    EXPECT_EQ(v->nombre(), nombre);
+  }
+  EXPECT_EQ(a.cargar("Form99"), nullptr);
+}
 
 std::vector<std::string> guiones() {
   std::vector<std::string> todos;

@@ -3,7 +3,7 @@
 #include <random>
 
 #include "apoyo/carpeta_prueba.h"
-#include "apoyo/mesa_rapida.h"
+#include "apoyo/mesas.h"
 #include "modelo/codificacion.h"
 
 namespace calvento {
@@ -19,7 +19,7 @@ const std::vector<std::string_view> ordenEscritoAMano = {
     "2.Text5", "2.Text6", "2.Text7", "2.Text8", "2.Text10", "tipoTanque", "Text17"};
 
 TextBox& campo(MesaRapida& m, std::string_view nombre) {
-  return nombre.starts_with("2.") ? *m.form2.buscar<TextBox>(nombre.substr(2)) : *m.f.buscar<TextBox>(nombre);
+  return nombre.starts_with("2.") ? *m.parametros.buscar<TextBox>(nombre.substr(2)) : *m.f.buscar<TextBox>(nombre);
 }
 
 /// A calculable project of one reach with basin type 3, its lines ended by `fin`.
@@ -65,7 +65,7 @@ TEST(ChuteProject, ReadsWhatOtherEditorsWrite) {
     EXPECT_TRUE(m.f.calculado()) << c.que;
     EXPECT_EQ(m.f.Text25.Text.valor(), c.progresiva) << c.que;
     EXPECT_EQ(m.f.Text3.Text.valor() + m.f.Text15.Text.valor(), "") << "empty lines are empty fields, " << c.que;
-    EXPECT_EQ(m.form2.Text2.Text.valor() + m.form2.Text5.Text.valor(), "6.20.25") << c.que;
+    EXPECT_EQ(m.parametros.Text2.Text.valor() + m.parametros.Text5.Text.valor(), "6.20.25") << c.que;
     EXPECT_EQ(m.f.Caption.valor(), "Rápida - b.cvr") << c.que;
     EXPECT_FALSE(m.estado.esNuevo) << c.que;
     EXPECT_EQ(m.estado.numTramos, 1) << c.que;

@@ -14,7 +14,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "apoyo/mesa_rapida.h"
+#include "apoyo/mesas.h"
 #include "pantalla.h"
 #include "plataforma/ventana.h"
 #include "qt/cadena.h"
@@ -245,7 +245,7 @@ TEST(TablaAnteUnaCaja, MuestraLosVeredictosDelCalculoQueCorre) {
   programa.aplicacion.arrancar();
   programa.aplicacion.mostrar("Form10");
   Ventana& rapida = *programa.aplicacion.cargada("Form10");
-  MesaRapida::ponerEn(rapida, rapidaDeUnTramo());
+  MesaRapida::ponerEn(rapida, datosDe("rapida de un tramo"));
   const QMainWindow* vista = programa.sistema.vista("Form10");
   auto* tabla = vista->findChild<QTableView*>("Grid1");
   ASSERT_TRUE(QTest::qWaitForWindowExposed(tabla->window()));

@@ -1,7 +1,7 @@
 #include <cmath>
 
 #include "apoyo/disenos_al_azar.h"
-#include "apoyo/mesa_rapida.h"
+#include "apoyo/mesas.h"
 #include "apoyo/seccion_desnuda.h"
 #include "estructura/pasos.h"
 
@@ -10,7 +10,7 @@ namespace {
 
 using D = DesignState;
 
-using MesaLibre = Mesa<DialogosLibres>;
+using MesaLibre = MesaRapidaDe<DialogosLibres>;
 
 using desnuda::alturaVelocidad;
 using desnuda::area;
@@ -95,7 +95,7 @@ TEST(ChuteCalculation, BalancesHoldOverRandomChutes) {
 
 TEST(ChuteCalculation, ProfileAgreesWithAFineIntegration) {
   MesaLibre m;
-  m.poner(rapidaDeTresTramos());
+  m.poner(datosDe("rapida de tres tramos"));
   m.f.Command3.Click();
   ASSERT_TRUE(m.f.calculado());
   const double S[] = {0.06, 0.15, 0.40};
