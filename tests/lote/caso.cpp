@@ -5,6 +5,7 @@
 #include <fstream>
 #include <regex>
 
+#include "apoyo/tablas.h"
 #include "lote/corrida.h"
 
 namespace calvento::lote {
@@ -14,11 +15,6 @@ namespace {
 namespace fs = std::filesystem;
 
 Json leido(const fs::path& archivo) { return Json::parse(std::ifstream(archivo)); }
-
-std::string recortado(std::string_view s) {
-  const auto a = s.find_first_not_of(" \r\n"), b = s.find_last_not_of(" \r\n");
-  return a == std::string_view::npos ? "" : std::string(s.substr(a, b - a + 1));
-}
 
 bool mismaPalabra(const std::string& es, const std::string& debe) {
   if (es == debe) return true;
@@ -74,7 +70,7 @@ bool cercaDe(double es, double debe) {
 }
 
 bool mismoTexto(std::string_view es, std::string_view debe) {
-  const std::string a = recortado(es), b = recortado(debe);
+  const std::string a = sinBlancos(std::string(es), " \r\n"), b = sinBlancos(std::string(debe), " \r\n");
   // how an arithmetic failure is called is nobody's affair
   if (a == b || (b.starts_with("*: ") && a.ends_with(b.substr(1)))) return true;
   const auto pa = palabras(a), pb = palabras(b);

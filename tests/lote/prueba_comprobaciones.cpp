@@ -1,10 +1,9 @@
 // The checks of a design: what each must find, and that a sound design passes them all.
 #include <filesystem>
-#include <fstream>
-#include <gtest/gtest.h>
 #include <map>
 #include <set>
 
+#include "apoyo/tablas.h"
 #include "corrida.h"
 #include "lote/estructuras.h"
 
@@ -12,19 +11,6 @@ namespace calvento::lote {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string recortado(const std::string& s) {
-  const auto a = s.find_first_not_of(' ');
-  return a == std::string::npos ? "" : s.substr(a, s.find_last_not_of(' ') + 1 - a);
-}
-
-std::set<std::string> partes(const std::string& texto, char separador) {
-  std::set<std::string> todas;
-  std::istringstream flujo(texto);
-  for (std::string p; std::getline(flujo, p, separador);)
-    if (!recortado(p).empty()) todas.insert(recortado(p));
-  return todas;
-}
 
 /// The checks of a project by their state.
 std::map<std::string, std::set<std::string>> comprobacionesDe(const std::string& archivo) {
@@ -46,7 +32,7 @@ std::string variante(const CarpetaPrueba& carpeta, const std::string& ejemplo, c
     if (e.path().filename().string().substr(0, 2) != ejemplo) continue;
     const FormatoProyecto& formato = *estructuraDe(e.path().string())->formato;
     std::vector<std::string> lineas = leerLineas(e.path(), formato.lineas.size());
-    for (const std::string& cambio : partes(cambios, ' ')) {
+    for (const std::string& cambio : partido(cambios, ' ')) {
       const auto igual = cambio.find('=');
       const auto it = std::ranges::find(formato.lineas, cambio.substr(0, igual));
       EXPECT_NE(it, formato.lineas.end()) << cambio;
@@ -62,16 +48,11 @@ std::string variante(const CarpetaPrueba& carpeta, const std::string& ejemplo, c
 
 TEST(Comprobaciones, EachKnownFaultIsFoundByItsCheck) {
   const CarpetaPrueba carpeta;
-  std::ifstream tabla(fs::path(RAIZ_PROYECTO) / "tests/lote/fallas.txt");
   int casos = 0;
-  for (std::string fila; std::getline(tabla, fila);) {
-    if (fila.empty() || fila[0] == '#') continue;
-    SCOPED_TRACE(fila);
-    const auto p1 = fila.find(';'), p2 = fila.find(';', p1 + 1);
-    const auto hallado =
-        comprobacionesDe(variante(carpeta, recortado(fila.substr(0, p1)), fila.substr(p1 + 1, p2 - p1 - 1)));
+  porCadaFila("fallas.txt", "fallas", [&](const Fila& f) {
+    const auto hallado = comprobacionesDe(variante(carpeta, f[0], f[1]));
     std::set<std::string> fallan;
-    for (const std::string& nombre : partes(fila.substr(p2 + 1), '+')) {
+    for (const std::string& nombre : partido(f[2], '+')) {
       if (nombre[0] == '~')
         EXPECT_TRUE(hallado.at("observación").contains(nombre.substr(1)));
       else
@@ -79,7 +60,7 @@ TEST(Comprobaciones, EachKnownFaultIsFoundByItsCheck) {
     }
     EXPECT_EQ(hallado.contains("no cumple") ? hallado.at("no cumple") : std::set<std::string>{}, fallan);
     ++casos;
-  }
+  });
   EXPECT_GE(casos, 20);
 }
 

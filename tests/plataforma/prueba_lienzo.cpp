@@ -1,8 +1,8 @@
 #include <cmath>
-#include <gtest/gtest.h>
 #include <limits>
 #include <string>
 
+#include "apoyo/tablas.h"
 #include "plataforma/lienzo.h"
 #include "plataforma/medidas.h"
 
@@ -82,19 +82,7 @@ TEST(Lienzo, CadaPrimitivaGuardaElEstadoDeSuPluma) {
 }
 
 TEST(Medidas, AnchosPublicadosDeLaLetra) {
-  // Adobe's metrics of Helvetica at 8 points: thousandths of 160 twips
-  const struct {
-    const char* texto;
-    int milesimas;
-  } casos[] = {{"", 0},
-               {"0.00", 3 * 556 + 278},
-               {"0+000.00", 6 * 556 + 584 + 278},
-               {"PLANTA", 667 + 556 + 667 + 722 + 611 + 667},
-               {"ñ", 556},
-               {"í", 278},
-               {"m³/s", 833 + 333 + 278 + 500},
-               {"Sección", 667 + 556 + 500 + 500 + 222 + 556 + 556}};
-  for (const auto& c : casos) EXPECT_EQ(anchoTexto(c.texto), std::lround(c.milesimas * 0.16)) << c.texto;
+  porCadaFila("medidas.txt", "letra", [](const Fila& f) { EXPECT_EQ(anchoTexto(f[0]), std::lround(f.num(1) * 0.16)); });
   EXPECT_EQ(altoTexto(), 195);
   EXPECT_NEAR(puntosDeCelda(11.17), 7.5, 1e-9);  // 11.17 pixels of line are 10 pixels of letter
 }
