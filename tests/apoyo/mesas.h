@@ -11,7 +11,7 @@ namespace calvento {
 /// What is typed for a design of tests/tablas/datos.txt.
 inline Datos datosDe(const std::string& diseno) {
   Datos datos;
-  for (const Fila& f : tabla("datos.txt", diseno))
+  for (const FilaTabla& f : tabla("datos.txt", diseno))
     for (const std::string& par : partido(f.escrita, ' '))
       datos.emplace_back(par.substr(0, par.find('=')), par.substr(par.find('=') + 1));
   return datos;

@@ -76,7 +76,7 @@ std::size_t cuantas(const CadGrabado& cad, const std::string& cuales) {
 }
 
 TEST(ExportarRapida, EndsAsTheTableTells) {
-  porCadaFila("cad.txt", "exportar", [](const Fila& f) {
+  porCadaFila("cad.txt", "exportar", [](const FilaTabla& f) {
     MesaRapida m;
     escribirTextos(m.f, f[0]);
     ponerCampos(m.estado, f[1]);

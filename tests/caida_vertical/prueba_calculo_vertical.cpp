@@ -2,8 +2,8 @@
 #include <cmath>
 
 #include "apoyo/disenos_al_azar.h"
-#include "apoyo/seccion_desnuda.h"
 #include "apoyo/mesas.h"
+#include "apoyo/seccion_desnuda.h"
 
 namespace calvento {
 namespace {

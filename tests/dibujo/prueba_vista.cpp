@@ -5,7 +5,7 @@ namespace calvento {
 namespace {
 
 TEST(Vista, EscalaEnsanchaElLadoQueFaltaYNuncaDeforma) {
-  porCadaFila("vistas.txt", "escala", [](const Fila& f) {
+  porCadaFila("vistas.txt", "escala", [](const FilaTabla& f) {
     DesignState e;
     Lienzo l(std::stoi(f[1]), std::stoi(f[2]));
     fijarVista(e, {f.num(3), f.num(4), f.num(5), f.num(6)});

@@ -49,7 +49,7 @@ std::string variante(const CarpetaPrueba& carpeta, const std::string& ejemplo, c
 TEST(Comprobaciones, EachKnownFaultIsFoundByItsCheck) {
   const CarpetaPrueba carpeta;
   int casos = 0;
-  porCadaFila("fallas.txt", "fallas", [&](const Fila& f) {
+  porCadaFila("fallas.txt", "fallas", [&](const FilaTabla& f) {
     const auto hallado = comprobacionesDe(variante(carpeta, f[0], f[1]));
     std::set<std::string> fallan;
     for (const std::string& nombre : partido(f[2], '+')) {

@@ -82,7 +82,8 @@ TEST(Lienzo, CadaPrimitivaGuardaElEstadoDeSuPluma) {
 }
 
 TEST(Medidas, AnchosPublicadosDeLaLetra) {
-  porCadaFila("medidas.txt", "letra", [](const Fila& f) { EXPECT_EQ(anchoTexto(f[0]), std::lround(f.num(1) * 0.16)); });
+  porCadaFila("medidas.txt", "letra",
+              [](const FilaTabla& f) { EXPECT_EQ(anchoTexto(f[0]), std::lround(f.num(1) * 0.16)); });
   EXPECT_EQ(altoTexto(), 195);
   EXPECT_NEAR(puntosDeCelda(11.17), 7.5, 1e-9);  // 11.17 pixels of line are 10 pixels of letter
 }

@@ -24,8 +24,8 @@
 namespace calvento {
 
 /// A window with a control of each kind; what the user does to them is written down.
-struct Banco : Ventana {
-  Banco() : Ventana("Banco", "Prueba") {
+struct Mostrador : Ventana {
+  Mostrador() : Ventana("Banco", "Prueba") {
     seleccionarAlEnfocar(*this);
     Text2.Change = [this] { hecho += "Change:" + Text2.Text.valor() + " "; };
     Option2.Click = [this] { hecho += "Option2 "; };
@@ -87,7 +87,7 @@ struct BancoEnPantalla {
     if (enlace) enlace->soltar();
   }
 
-  Banco v;
+  Mostrador v;
   QMainWindow vista;
   QLabel* rotulo = nullptr;
   QLineEdit* texto1 = nullptr;

@@ -213,7 +213,7 @@ QMainWindow* Escena::vista(const std::string& nombre) const {
 
 /// A property of the control as a program sets it: "Text2.Enabled" of the bench.
 void Escena::programa(const std::string& propiedad, const std::string& texto) {
-  Banco& v = banco_->v;
+  Mostrador& v = banco_->v;
   const auto [nombre, cual] = partidoEn(propiedad, '.');
   if (nombre == "Banco") v.Caption = texto;
   Control* c = v.buscar(nombre);
