@@ -85,7 +85,9 @@ class Escena {
   std::pair<Ventana*, std::string> donde(const std::string& nombre) {
     if (!nombre.starts_with("Form")) return {ventana_, nombre};
     const std::size_t punto = nombre.find('.');
-    return {programa_.cargar(nombre.substr(0, punto)), nombre.substr(punto + 1)};
+    Ventana* v = programa_.cargar(nombre.substr(0, punto));
+    if (v == nullptr) throw std::runtime_error("no window for " + nombre);
+    return {v, nombre.substr(punto + 1)};
   }
 
   /// What stands in a field is replaced as a program does, any other control is set as a user does.

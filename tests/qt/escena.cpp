@@ -223,7 +223,7 @@ void Escena::programa(const std::string& propiedad, const std::string& texto) {
   if (cual == "Text") v.buscar<TextBox>(nombre)->Text = texto;
   if (propiedad == "Label1.Caption") v.Label1.Caption = texto;
   if (cual == "Panel1") v.Barra.Panel1 = texto;
-  if (cual == "Max") v.Bar1.Max = std::stod(texto);
+  if (cual == "Max") v.Bar1.Max = std::stoi(texto);
   if (propiedad == "Bar1.Value") v.Bar1.Value = std::stod(texto);
   if (propiedad == "Option2.Value") v.Option2.Value = texto == "sí";
   if (propiedad == "Check1.Value") v.Check1.Value = texto == "sí";
