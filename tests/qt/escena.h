@@ -14,6 +14,9 @@
 
 namespace calvento {
 
+/// What stands before the first of these characters and behind it.
+std::pair<std::string, std::string> partidoEn(const std::string& s, char c);
+
 /// A scene on the real widgets: what is typed and pressed and what must then be seen, a line each, as
 /// tests/guiones/LEEME.md tells.
 class Escena {

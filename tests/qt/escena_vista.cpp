@@ -1,0 +1,146 @@
+// What a scene can see of the windows.
+#include <set>
+
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTableView>
+
+#include "apoyo/tablas.h"
+#include "comun/numeros.h"
+#include "escena.h"
+#include "qt/cadena.h"
+
+namespace calvento {
+
+namespace {
+
+constexpr auto noEsta = "no está";
+std::string siNo(bool b) { return b ? "sí" : "no"; }
+
+}  // namespace
+
+std::vector<QMdiSubWindow*> Escena::enOrden() const {
+  std::vector<QMdiSubWindow*> todas;
+  for (QMdiSubWindow* h :
+       programa_.sistema.vista("frmMain")->findChild<QMdiArea*>()->subWindowList(QMdiArea::StackingOrder))
+    if (h->isVisible()) todas.insert(todas.begin(), h);
+  return todas;
+}
+
+/// The window that is active, above all others and has the focus.
+std::string Escena::enFrente() const {
+  const auto* activa = programa_.sistema.vista("frmMain")->findChild<QMdiArea*>()->activeSubWindow();
+  if (activa == nullptr || activa != enOrden().front()) return "not above the others";
+  const QWidget* foco = QApplication::focusWidget();
+  return (foco != nullptr && activa->isAncestorOf(foco) ? "" : "without the focus ") +
+         deQt(activa->widget()->objectName());
+}
+
+std::string Escena::marcados(const std::string& ventana) const {
+  std::set<std::string> todos;
+  if (const QMainWindow* vista = programa_.sistema.vista(ventana))
+    for (const QLineEdit* c : vista->findChildren<QLineEdit*>())
+      if (!c->accessibleDescription().isEmpty()) todos.insert(deQt(c->objectName() + ": " + c->toolTip()));
+  std::string s;
+  for (const std::string& t : todos) s += (s.empty() ? "" : "; ") + t;
+  return s;
+}
+
+std::string Escena::valor(const std::string& nombre) const {
+  std::string s;
+  if (nombre == "hecho") return sinBlancos(banco_ ? banco_->v.hecho : hecho_);
+  if (nombre == "conLaCaja") return conLaCaja_;
+  if (nombre == "enfrente") return enFrente();
+  if (nombre == "foco") {
+    const QWidget* f = QApplication::focusWidget();
+    const QWidget* v = f;
+    while (v != nullptr && qobject_cast<const QMainWindow*>(v) == nullptr) v = v->parentWidget();
+    return v == nullptr ? "none" : deQt(v->objectName() + "." + f->objectName());
+  }
+  if (nombre == "orden") {
+    for (const QMdiSubWindow* h : enOrden()) s += deQt(h->widget()->objectName()) + " ";
+    return sinBlancos(s);
+  }
+  if (nombre == "lugares") {
+    std::set<std::pair<int, int>> lugares;
+    for (const QMdiSubWindow* h : enOrden()) lugares.emplace(h->x(), h->y());
+    return std::to_string(lugares.size());
+  }
+  if (nombre == "menu") {  // whose menu bar the keys are in
+    for (const VentanaUi& v : ventanasUi())
+      if (const QMainWindow* vista = programa_.sistema.vista(v.nombre))
+        if (const auto* barra = qobject_cast<QMenuBar*>(vista->menuWidget()); barra != nullptr && barra->hasFocus())
+          s += barra->activeAction() != nullptr ? v.nombre : "nothing chosen";
+    return s;
+  }
+  if (nombre == "desplegado") {
+    const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    for (const QAction* a : menu == nullptr ? QList<QAction*>() : menu->actions())
+      if (!a->isSeparator()) s += (s.empty() ? "" : " | ") + std::string(a->isChecked() ? "*" : "") + deQt(a->text());
+    return s;
+  }
+  const auto [ventana, resto] = partidoEn(nombre, '.');
+  if (ventana == "estado") {
+    for (const CampoSingle& c : camposSingle())
+      if (c.nombre == resto) return texto(programa_.aplicacion.estado.*c.campo);
+  }
+  return deVentana(ventana, resto);
+}
+
+std::string Escena::deVentana(const std::string& ventana, const std::string& que) const {
+  QMainWindow* suya = vista(ventana);
+  if (que.empty()) {
+    const QWidget* marco = programa_.sistema.marco(ventana);
+    return marco == nullptr ? noEsta : marco->isVisible() ? "a la vista" : "oculta";
+  }
+  if (suya == nullptr) return noEsta;
+  if (que == "marcados") return marcados(ventana);
+  if (que == "rotulos") {
+    std::string s;
+    for (const QLabel* l : suya->findChildren<QLabel*>()) s += deQt(l->text()) + "|";
+    return s;
+  }
+  const auto [nombre, propiedad] = partidoEn(que, '.');
+  const auto [control, celda] = partidoEn(nombre, '[');
+  const bool dePropia = control == "width" || control == "height" || control == "windowTitle";
+  QObject* o = dePropia ? suya : objeto(ventana + "." + control);
+  if (o == nullptr) return noEsta;
+  if (auto* t = qobject_cast<QTableView*>(o); t != nullptr && !celda.empty()) {
+    const auto n = partido(celda, '[');
+    return deQt(t->model()->index(std::stoi(n.at(0)), std::stoi(n.at(1))).data().toString());
+  }
+  return deWidget(ventana, *o, dePropia ? control : propiedad);
+}
+
+/// What Qt or a screen reader tells of a widget.
+std::string Escena::deWidget(const std::string& ventana, QObject& o, const std::string& que) const {
+  auto* w = qobject_cast<QWidget*>(&o);
+  if (que == "hidden") return siNo(w->isHidden());
+  if (que == "fondo") return deQt(w->palette().color(QPalette::Base).name());
+  if (que == "indice") return std::to_string(w->parentWidget()->children().indexOf(w));
+  if (que == "marcado")
+    return siNo(w->palette().color(QPalette::Base) != vista(ventana)->palette().color(QPalette::Base));
+  if (que == "Text") return banco_->v.buscar<TextBox>(deQt(o.objectName()))->Text;
+  if (que == "SelLength") return std::to_string(banco_->v.buscar<TextBox>(deQt(o.objectName()))->SelLength);
+  if (que == "dibujado")
+    return std::to_string(
+        programa_.aplicacion.cargada(ventana)->buscar<PictureBox>(deQt(o.objectName()))->lienzo.version());
+  if (que == "leido") {
+    auto* lector = QAccessible::queryAccessibleInterface(&o);
+    if (lector->textInterface() == nullptr || !lector->state().readOnly) return "no result";
+    EXPECT_EQ(lector->textInterface()->text(0, 200), lector->text(QAccessible::Value));
+    return deQt(lector->text(QAccessible::Name) + ": " + lector->text(QAccessible::Value));
+  }
+  QVariant v = o.property(que.empty() ? "text" : que.c_str());
+  if (que.empty() && !v.isValid()) v = o.property("currentText");
+  if (!v.isValid()) return "no property " + que;
+  return v.typeId() == QMetaType::Bool ? siNo(v.toBool()) : deQt(v.toString());
+}
+
+}  // namespace calvento
