@@ -83,7 +83,11 @@ void MarcoDibujo::reglas() {
 void MarcoDibujo::redibujar() {
   reglas();
   for (const Rutina& r : orden_ == Orden::principal ? estructura_.ordenPrincipal : estructura_.ordenVistas)
-    pasandoFallos([&] { r.pintar(GRAF.lienzo); });
+    pasandoFallos([&] {
+      GRAF.lienzo.capa(r.nombre);
+      r.pintar(GRAF.lienzo);
+    });
+  GRAF.lienzo.capa("leyenda");
   dibujarLeyenda(GRAF.lienzo);
 }
 

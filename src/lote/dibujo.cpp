@@ -2,7 +2,9 @@
 
 #include <stdexcept>
 
+#include "comun/version.h"
 #include "dibujo/marco_dibujo.h"
+#include "dibujo/svg.h"
 #include "lote/salidas.h"
 #include "qt/exportar_dibujo.h"
 
@@ -16,7 +18,12 @@ void exportarDibujoDe(Sesion& sesion, const Opciones& opciones) {
     for (const std::string_view v : ventana->vistas()) vistas += (vistas.empty() ? "" : ", ") + std::string(v);
     throw OpcionErronea("--vista " + opciones.vista + ": el dibujo tiene las vistas " + vistas);
   }
-  exportarDibujo(ventana->GRAF.lienzo, archivoDeSalida(opciones.dibujo, sesion.archivo()));
+  const std::string archivo = archivoDeSalida(opciones.dibujo, sesion.archivo());
+  const HojaSvg hoja{ventana->Caption, opciones.vista + "; Calvento " + version()};
+  if constexpr (conQt)
+    exportarDibujo(ventana->GRAF.lienzo, archivo, hoja);
+  else
+    guardarSvg(ventana->GRAF.lienzo, hoja, archivo);
 }
 
 }  // namespace calvento::lote

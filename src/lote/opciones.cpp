@@ -143,19 +143,18 @@ std::variant<Opciones, Informacion> leerOpciones(int argc, const char* const* ar
   programa.add_option("--veces", veces, "Calcula N veces más al final")->type_name("N");
   programa.add_option("--responder", responder, "Respuesta a toda pregunta; si, mientras no se diga otra cosa")
       ->type_name("si|no");
-  if constexpr (conQt) {
-    programa
-        .add_option("--dibujo", o.dibujo,
-                    "Guarda el dibujo de la estructura como SVG, PDF o PNG, por la\n"
-                    "extensión. En el nombre, {} es el nombre del proyecto: hace falta\n"
-                    "con más de un proyecto")
-        ->type_name("ARCHIVO");
-    programa
-        .add_option("--vista", o.vista,
-                    "Vista del dibujo; vistaTodo, mientras no se diga otra cosa. Con un\n"
-                    "nombre que no existe se dicen las que hay")
-        ->type_name("NOMBRE");
-  }
+  programa
+      .add_option("--dibujo", o.dibujo,
+                  std::string(conQt ? "Guarda el dibujo de la estructura como SVG, PDF o PNG, por la\nextensión."
+                                    : "Guarda el dibujo de la estructura como SVG.") +
+                      " En el nombre, {} es el nombre del proyecto: hace falta\n"
+                      "con más de un proyecto")
+      ->type_name("ARCHIVO");
+  programa
+      .add_option("--vista", o.vista,
+                  "Vista del dibujo; vistaTodo, mientras no se diga otra cosa. Con un\n"
+                  "nombre que no existe se dicen las que hay")
+      ->type_name("NOMBRE");
   programa
       .add_option("--dxf", o.dxf,
                   "Guarda perfil y planta como dibujo DXF para programas de CAD.\n"

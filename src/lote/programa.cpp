@@ -44,8 +44,7 @@ std::string con(const std::vector<Puesto>& puestos) {
 /// The files asked for beside the text. One that cannot be written is an error of the command, not of the design.
 void exportar(Sesion& sesion, const Opciones& opciones, Resultado& r) {
   try {
-    if constexpr (conQt)
-      if (!opciones.dibujo.empty()) exportarDibujoDe(sesion, opciones);
+    if (!opciones.dibujo.empty()) exportarDibujoDe(sesion, opciones);
     if (!opciones.dxf.empty()) exportarDxfDe(sesion, opciones);
     if constexpr (conQt)
       if (!opciones.memoria.empty()) escribirMemoriaDe(sesion, opciones);

@@ -27,8 +27,13 @@ struct Clase {
   }
 };
 
+std::vector<const char*> extensionesDibujo() {
+  if constexpr (conQt) return {"svg", "pdf", "png"};
+  return {"svg"};
+}
+
 std::span<const Clase> clases() {
-  static const std::array<Clase, 3> todas = {{{"--dibujo", &Opciones::dibujo, {"svg", "pdf", "png"}},
+  static const std::array<Clase, 3> todas = {{{"--dibujo", &Opciones::dibujo, extensionesDibujo()},
                                               {"--dxf", &Opciones::dxf, {"dxf"}},
                                               {"--memoria", &Opciones::memoria, {"pdf", "html", "odt"}}}};
   return todas;

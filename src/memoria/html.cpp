@@ -1,29 +1,10 @@
 #include "memoria/html.h"
 
+#include "comun/xml.h"
+
 namespace calvento {
 
 namespace {
-
-std::string escapado(std::string_view texto) {
-  std::string s;
-  for (const char c : texto) switch (c) {
-      case '&':
-        s += "&amp;";
-        break;
-      case '<':
-        s += "&lt;";
-        break;
-      case '>':
-        s += "&gt;";
-        break;
-      case '"':
-        s += "&quot;";
-        break;
-      default:
-        s += c;
-    }
-  return s;
-}
 
 /// Text with its lowered and raised parts.
 std::string rico(std::string_view texto) {
@@ -32,12 +13,12 @@ std::string rico(std::string_view texto) {
     const bool marca = (texto[i] == '_' || texto[i] == '^') && i + 1 < texto.size() && texto[i + 1] == '{';
     const auto fin = marca ? texto.find('}', i) : std::string_view::npos;
     if (fin == std::string_view::npos) {
-      s += escapado(texto.substr(i, 1));
+      s += comoXml(texto.substr(i, 1));
       ++i;
       continue;
     }
     const char* etiqueta = texto[i] == '_' ? "sub" : "sup";
-    s += "<" + std::string(etiqueta) + ">" + escapado(texto.substr(i + 2, fin - i - 2)) + "</" + etiqueta + ">";
+    s += "<" + std::string(etiqueta) + ">" + comoXml(texto.substr(i + 2, fin - i - 2)) + "</" + etiqueta + ">";
     i = fin + 1;
   }
   return s;
@@ -156,7 +137,7 @@ std::string numeroYTitulo(const Documento& doc, std::size_t i) {
 
 std::string cabezaHtml(const Documento& doc, bool navegador) {
   std::string s = navegador ? "<!DOCTYPE html>\n<html lang=\"es\">" : "<html>";
-  s += "<head><meta charset=\"utf-8\"/><title>" + escapado(doc.titulo + " - " + doc.proyecto) + "</title><style>" +
+  s += "<head><meta charset=\"utf-8\"/><title>" + comoXml(doc.titulo + " - " + doc.proyecto) + "</title><style>" +
        std::string(estiloComun) + std::string(navegador ? estiloNavegador : std::string_view()) +
        "</style></head><body>\n";
   return s;
@@ -165,11 +146,11 @@ std::string cabezaHtml(const Documento& doc, bool navegador) {
 std::string portadaHtml(const Documento& doc, const std::function<std::string(std::size_t)>& pagina) {
   const auto linea = [](const char* rotulo, const std::string& texto) {
     return "<tr><td width=\"25%\"><b>" + std::string(rotulo) + "</b></td><td width=\"75%\">" +
-           (texto.empty() ? "______________________________________________" : escapado(texto)) + "</td></tr>\n";
+           (texto.empty() ? "______________________________________________" : comoXml(texto)) + "</td></tr>\n";
   };
-  std::string s = "<h1 align=\"center\" style=\"font-size:22pt\">" + escapado(doc.titulo) + "</h1>\n" +
-                  "<p align=\"center\" style=\"font-size:16pt\">" + escapado(doc.estructura) + "</p>\n" +
-                  "<p align=\"center\" style=\"font-size:12pt\">" + escapado(doc.proyecto) + "</p>\n<p></p>\n" +
+  std::string s = "<h1 align=\"center\" style=\"font-size:22pt\">" + comoXml(doc.titulo) + "</h1>\n" +
+                  "<p align=\"center\" style=\"font-size:16pt\">" + comoXml(doc.estructura) + "</p>\n" +
+                  "<p align=\"center\" style=\"font-size:12pt\">" + comoXml(doc.proyecto) + "</p>\n<p></p>\n" +
                   "<table class=\"portada\" border=\"0\" cellspacing=\"0\" cellpadding=\"6\" width=\"100%\">\n";
   s += linea("Obra", doc.portada.obra) + linea("Ubicación", doc.portada.ubicacion) +
        linea("Proyectista", doc.portada.proyectista) + linea("Revisión", doc.portada.revision) +
@@ -180,7 +161,7 @@ std::string portadaHtml(const Documento& doc, const std::function<std::string(st
        "width=\"100%\">\n";
   for (std::size_t i = 0; i < doc.capitulos.size(); ++i) {
     const std::string donde = pagina ? pagina(i) : "";
-    const std::string titulo = escapado(numeroYTitulo(doc, i));
+    const std::string titulo = comoXml(numeroYTitulo(doc, i));
     s += "<tr><td width=\"90%\">" +
          (pagina ? titulo : "<a href=\"#c" + std::to_string(i + 1) + "\">" + titulo + "</a>") +
          "</td><td width=\"10%\" align=\"right\">" + donde + "</td></tr>\n";
@@ -191,10 +172,10 @@ std::string portadaHtml(const Documento& doc, const std::function<std::string(st
 std::string capituloHtml(const Documento& doc, std::size_t i, const FormaHtml& forma) {
   const Capitulo& c = doc.capitulos[i];
   Escritor e(forma);
-  e.html = "<h1><a name=\"c" + std::to_string(i + 1) + "\"></a>" + escapado(numeroYTitulo(doc, i)) + "</h1>\n";
+  e.html = "<h1><a name=\"c" + std::to_string(i + 1) + "\"></a>" + comoXml(numeroYTitulo(doc, i)) + "</h1>\n";
   for (const Apartado& a : c.apartados) {
     e.cerrarFormulas();
-    if (!a.titulo.empty()) e.html += "<h2>" + escapado(a.titulo) + "</h2>\n";
+    if (!a.titulo.empty()) e.html += "<h2>" + comoXml(a.titulo) + "</h2>\n";
     for (const Bloque& b : a.bloques) std::visit(e, b);
   }
   e.cerrarFormulas();

@@ -45,6 +45,7 @@ void Lienzo::Scale(double x1, double y1, double x2, double y2) {
 
 void Lienzo::Cls() {
   primitivas_.clear();
+  capas_.clear();
   CurrentX = CurrentY = 0;
   cambiar();
 }
@@ -60,6 +61,7 @@ void Lienzo::moverA(Punto p) {
 }
 
 void Lienzo::anadir(Primitiva p) {
+  if (capas_.empty() ? !capa_.empty() : capas_.back().nombre != capa_) capas_.push_back({primitivas_.size(), capa_});
   primitivas_.push_back(std::move(p));
   cambiar();
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <limits>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -93,6 +95,12 @@ struct PrimTexto {
 };
 using Primitiva = std::variant<PrimLinea, PrimPolilinea, PrimPoligono, PrimCaja, PrimCirculo, PrimTexto>;
 
+/// From the primitive of that number on, a picture is this part of the drawing.
+struct CapaLienzo {
+  std::size_t desde = 0;
+  std::string nombre;
+};
+
 /// The place of the pen in world coordinates and how it draws, fills and writes.
 struct EstadoPluma {
   double CurrentX = 0;
@@ -153,13 +161,21 @@ class Lienzo : public EstadoPluma {
   void fijarEstadoPluma(const EstadoPluma& estado) { static_cast<EstadoPluma&>(*this) = estado; }
 
   const std::vector<Primitiva>& primitivas() const { return primitivas_; }
+  /// What is drawn from now on belongs to the layer of that name, until another one is named.
+  void capa(std::string_view nombre) { capa_ = nombre; }
+  /// The layers that hold something, in the order of the picture.
+  const std::vector<CapaLienzo>& capas() const { return capas_; }
   /// Hands every text to `cambiar`, which may alter it; a text for which that is false is taken out.
   template <class Cambio>
   void cambiarTextos(Cambio&& cambiar) {
     std::vector<Primitiva> quedan;
     quedan.reserve(primitivas_.size());
-    for (Primitiva& p : primitivas_)
+    auto capa = capas_.begin();
+    for (std::size_t i = 0; i < primitivas_.size(); ++i) {
+      for (; capa != capas_.end() && capa->desde == i; ++capa) capa->desde = quedan.size();
+      Primitiva& p = primitivas_[i];
       if (auto* texto = std::get_if<PrimTexto>(&p); texto == nullptr || cambiar(*texto)) quedan.push_back(std::move(p));
+    }
     primitivas_ = std::move(quedan);
     ++version_;
   }
@@ -179,6 +195,8 @@ class Lienzo : public EstadoPluma {
   int altoReferencia_;
   EscalaLienzo escala_;
   std::vector<Primitiva> primitivas_;
+  std::string capa_;
+  std::vector<CapaLienzo> capas_;
   std::uint64_t version_ = 0;
   Oyente<> oyente_;  ///< the last member: see there
 };

@@ -31,7 +31,7 @@ QString extension(const std::string& archivo) { return QFileInfo(aQt(archivo)).s
 QByteArray comoPaginaHtml(const Documento& d) {
   FormaHtml forma;
   forma.navegador = true;
-  forma.figura = [](const Figura& f) { return svgDeFigura(f).toStdString(); };
+  forma.figura = [](const Figura& f) { return svgDeFigura(f); };
   const std::string html = comoHtml(d, forma);
   return {html.data(), static_cast<qsizetype>(html.size())};
 }

@@ -12,7 +12,6 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSvgGenerator>
 
 #include "comun/version.h"
 #include "modelo/guardado.h"
@@ -33,18 +32,6 @@ constexpr int finuraPng = 3;  ///< pixels for each of the screen's: the small te
 void callarCarpetas(QtMsgType tipo, const QMessageLogContext& contexto, const QString& texto) {
   if (texto.startsWith("QStandardPaths:")) return;
   std::fputs(qPrintable(qFormatLogMessage(tipo, contexto, texto) + '\n'), stderr);
-}
-
-void comoSvg(const Lienzo& lienzo, QIODevice& salida) {
-  const QRect hoja(0, 0, lienzo.anchoPixeles(), lienzo.altoPixeles());
-  QSvgGenerator generador;
-  generador.setOutputDevice(&salida);
-  generador.setResolution(pixelesPorPulgada);
-  generador.setSize(hoja.size());
-  generador.setViewBox(hoja);
-  generador.setTitle("Calvento");
-  QPainter pintor(&generador);
-  pintar(lienzo, pintor, QRectF(hoja));
 }
 
 void comoPdf(const Lienzo& lienzo, QIODevice& salida) {
@@ -85,21 +72,20 @@ void asegurarAplicacionGrafica() {
   qInstallMessageHandler(antes);
 }
 
-void exportarDibujo(const Lienzo& lienzo, const std::string& archivo) {
+void exportarDibujo(const Lienzo& lienzo, const std::string& archivo, const HojaSvg& hoja) {
   const QString nombre = aQt(archivo);
   const QString extension = QFileInfo(nombre).suffix().toLower();
   if (extension != "svg" && extension != "pdf" && extension != "png")
     throw std::runtime_error("El dibujo se escribe como .svg, .pdf o .png: " + archivo);
   if (lienzo.anchoPixeles() <= 0 || lienzo.altoPixeles() <= 0) throw std::runtime_error("El dibujo no tiene tamaño");
+  if (extension == "svg") return guardarSvg(lienzo, hoja, archivo);
   asegurarAplicacionGrafica();
 
   QByteArray datos;
   QBuffer memoria(&datos);
   memoria.open(QIODevice::WriteOnly);
   bool listo = true;
-  if (extension == "svg")
-    comoSvg(lienzo, memoria);
-  else if (extension == "pdf")
+  if (extension == "pdf")
     comoPdf(lienzo, memoria);
   else
     listo = comoPng(lienzo, memoria);

@@ -1,10 +1,7 @@
 #include "qt/figura_memoria.h"
 
-#include <QBuffer>
-#include <QFont>
-#include <QPainter>
-#include <QSvgGenerator>
-
+#include "dibujo/svg.h"
+#include "memoria/boceto_rotulado.h"
 #include "qt/cadena.h"
 #include "qt/pintor.h"
 #include "qt/trazos_qt.h"
@@ -17,34 +14,9 @@ TrazosQt trazosDe(const BocetoRotulado& boceto) {
   return TrazosQt(QStringLiteral(":/bocetos/") + aQt(boceto.nombre) + QStringLiteral(".pic"));
 }
 
-Qt::Alignment alineacionDe(Alineacion a) {
-  const Qt::Alignment h = a == Alineacion::derecha  ? Qt::AlignRight
-                          : a == Alineacion::centro ? Qt::AlignHCenter
-                                                    : Qt::AlignLeft;
-  return h | Qt::AlignVCenter;
-}
-
 void pintarBoceto(const BocetoRotulado& boceto, QPainter& pintor, const QRectF& destino) {
   const TrazosQt dibujo = trazosDe(boceto);
-  if (!dibujo.valido()) return;
-  pintor.save();
-  const QRectF lugar = dibujo.lugarEn(destino);
-  dibujo.pintar(pintor, lugar);
-  if (boceto.ancho > 0) {
-    // the labels as the window has them, a little larger: a sheet is smaller than a window
-    pintor.translate(lugar.topLeft());
-    pintor.scale(lugar.width() / boceto.ancho, lugar.height() / boceto.alto);
-    QFont letra(QStringLiteral("Liberation Sans"));
-    letra.setPixelSize(16);
-    letra.setBold(true);
-    letra.setHintingPreference(QFont::PreferNoHinting);
-    pintor.setFont(letra);
-    pintor.setPen(QColor(0x0b, 0x3d, 0x66));
-    for (const BocetoRotulado::Rotulo& r : boceto.rotulos)
-      pintor.drawText(QRectF(r.x, r.y - 3, r.ancho, r.alto + 6),
-                      static_cast<int>(alineacionDe(r.alineacion)) | Qt::TextDontClip, aQt(r.texto));
-  }
-  pintor.restore();
+  dibujo.pintar(pintor, dibujo.lugarEn(destino), rotulosSobre(boceto, dibujo.trazos().caja()));
 }
 
 }  // namespace
@@ -64,24 +36,16 @@ QSizeF tamanoFigura(const Figura& figura) {
                           : propio.scaled(QSizeF(figura.anchoMm, 1e6), Qt::KeepAspectRatio);
 }
 
-QByteArray svgDeFigura(const Figura& figura) {
+std::string svgDeFigura(const Figura& figura) {
   constexpr double pixelesPorMm = 96 / 25.4;
-  const QSizeF tamano = tamanoFigura(figura) * pixelesPorMm;
-  const QRectF hoja(QPointF(0, 0), tamano);
-  QByteArray datos;
-  QBuffer memoria(&datos);
-  memoria.open(QIODevice::WriteOnly);
-  {
-    QSvgGenerator generador;
-    generador.setOutputDevice(&memoria);
-    generador.setResolution(96);
-    generador.setSize(tamano.toSize());
-    generador.setViewBox(hoja);
-    generador.setTitle(aQt(figura.titulo));
-    QPainter pintor(&generador);
-    pintarFigura(figura, pintor, hoja);
+  HojaSvg hoja{figura.titulo, {}, tamanoFigura(figura).width() * pixelesPorMm, true};
+  if (const auto* lienzo = std::get_if<Lienzo>(&figura.dibujo)) {
+    hoja.ancho = encuadre(*lienzo, QRectF(QPointF(0, 0), tamanoFigura(figura) * pixelesPorMm)).width();
+    return comoSvg(*lienzo, hoja);
   }
-  return datos.mid(std::max<qsizetype>(0, datos.indexOf("<svg")));
+  const auto& boceto = std::get<BocetoRotulado>(figura.dibujo);
+  const TrazosQt dibujo = trazosDe(boceto);
+  return comoSvg(dibujo.trazos(), rotulosSobre(boceto, dibujo.trazos().caja()), hoja);
 }
 
 }  // namespace calvento

@@ -2,24 +2,22 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <optional>
+#include <utility>
 
 #include <QFont>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QTransform>
 
+#include "dibujo/repeticion.h"
 #include "plataforma/medidas.h"
 #include "qt/cadena.h"
-#include "qt/recorte.h"
 
 namespace calvento {
 
 namespace {
 
-constexpr double pasoRayado = 8;  ///< pixels between the strokes of a hatch
-constexpr double pixelesPorPunto = static_cast<double>(twipsPorPunto) / twipsPorPixel;
 /// Every font is made at this size in pixels and stretched to the one wanted: font machines round the advance of small
 /// letters to whole pixels and refuse huge ones, and a text must be equally wide on screen and on paper.
 constexpr double letraHecha = 64;
@@ -27,118 +25,80 @@ constexpr double letraHecha = 64;
 /// Desktop colours have no place on paper: whatever the desktop's theme, such ink is black.
 QColor tinta(Color c) { return c.esDelSistema() ? QColor(Qt::black) : QColor(c.rojo(), c.verde(), c.azul()); }
 
-QVector<qreal> trazos(EstiloLinea estilo) {
-  switch (estilo) {
-    case EstiloLinea::guiones:
-      return {12, 5};
-    case EstiloLinea::puntos:
-      return {2, 3};
-    case EstiloLinea::guionPunto:
-      return {9, 4, 2, 4};
-    case EstiloLinea::guionPuntoPunto:
-      return {9, 3, 2, 3, 2, 3};
-    case EstiloLinea::solida:
-      break;
-  }
-  return {};
+QPointF enQt(Punto p) { return {p.x, p.y}; }
+QPolygonF enQt(const Puntos& puntos) {
+  QPolygonF r;
+  r.reserve(static_cast<qsizetype>(puntos.size()));
+  for (const Punto& p : puntos) r << enQt(p);
+  return r;
 }
+Marco deQt(const QRectF& r) { return {r.left(), r.top(), r.right(), r.bottom()}; }
 
-class Repeticion {
+class PapelQt : public Papel {
  public:
-  Repeticion(const Lienzo& lienzo, QPainter& pintor, const QRectF& destino)
-      : pintor_(pintor),
-        destino_(destino),
-        escala_(lienzo.escala()),
-        x_(destino.width() / escala_.ancho),
-        y_(destino.height() / escala_.alto),
-        pixel_(destino.height() / std::max(lienzo.altoPixeles(), 1)),
-        aumento_(destino.height() / std::max(lienzo.altoReferencia(), 1)) {
+  PapelQt(QPainter& pintor, const QRectF& destino) : pintor_(pintor) {
     const QTransform& dispositivo = pintor.deviceTransform();
-    if (pintor.paintEngine()->type() == QPaintEngine::Raster && dispositivo.type() <= QTransform::TxScale)
-      aPuntos_ = dispositivo;
-    const double margen = 64 * pixel_ + 64;  // room for the width of a line whose course lies just outside
-    marco_ = destino.adjusted(-margen, -margen, margen, margen);
+    if (pintor.paintEngine()->type() != QPaintEngine::Raster || dispositivo.type() > QTransform::TxScale) return;
+    aPuntos_ = dispositivo;
+    hoja_ = deQt(dispositivo.mapRect(destino));
   }
 
-  void operator()(const PrimLinea& p) { linea(QLineF(punto(p.a), punto(p.b)), p.pluma); }
+  /// On a screen or an image a line has whole points.
+  double ancho(double pedido) const override { return aPuntos_ ? puntosDeAncho(pedido) / aPuntos_->m22() : pedido; }
 
-  void operator()(const PrimPolilinea& p) {
-    QPolygonF puntos;
-    for (const Punto& q : p.puntos) puntos << punto(q);
-    if (marco_.contains(puntos.boundingRect())) {
-      usar(p.pluma);
-      pintor_.setBrush(Qt::NoBrush);
-      pintor_.drawPolyline(nitidos(puntos, p.pluma, false));
-    } else {
-      for (qsizetype i = 1; i < puntos.size(); ++i) linea(QLineF(puntos[i - 1], puntos[i]), p.pluma);
-    }
+  /// A course on the points of the screen or image; on paper and in vector files it stays as it is.
+  Puntos ajustados(Puntos puntos, double ancho, bool cerrado) const override {
+    if (!aPuntos_) return puntos;
+    const double sx = aPuntos_->m11(), sy = aPuntos_->m22(), dx = aPuntos_->dx(), dy = aPuntos_->dy();
+    for (Punto& p : puntos) p = {p.x * sx + dx, p.y * sy + dy};
+    puntos = sobrePixeles(std::move(puntos), puntosDeAncho(ancho), cerrado, hoja_);
+    for (Punto& p : puntos) p = {(p.x - dx) / sx, (p.y - dy) / sy};
+    return puntos;
   }
 
-  void operator()(const PrimPoligono& p) {
-    QPolygonF puntos;
-    for (const Punto& q : p.puntos) puntos << punto(q);
-    superficie(std::move(puntos), p.pluma, p.relleno);
+  void polilinea(const Puntos& puntos, const TrazoHoja& trazo) override {
+    usar(trazo);
+    pintor_.setBrush(Qt::NoBrush);
+    if (puntos.size() == 2)
+      pintor_.drawLine(enQt(puntos[0]), enQt(puntos[1]));
+    else
+      pintor_.drawPolyline(enQt(puntos));
   }
 
-  void operator()(const PrimCaja& p) {
-    const QPointF a = punto(p.a);
-    const QPointF b = punto(p.b);
-    superficie(QPolygonF({a, {b.x(), a.y()}, b, {a.x(), b.y()}}), p.pluma, p.relleno);
+  void rayas(const std::vector<Raya>& rayas, const TrazoHoja& trazo) override {
+    QList<QLineF> lineas;
+    lineas.reserve(static_cast<qsizetype>(rayas.size()));
+    for (const Raya& r : rayas) lineas << QLineF(enQt(r.a), enQt(r.b));
+    usar(trazo);
+    pintor_.drawLines(lineas);
   }
 
-  void operator()(const PrimCirculo& p) {
-    constexpr int lados = 72;  // one corner every five degrees: round at any size that fits a sheet
-    const QPointF c = punto(p.centro);
-    const double r = std::fabs(p.radio * x_);
-    QPolygonF puntos;
-    for (int i = 0; i < lados; ++i) {
-      const double a = 2 * std::numbers::pi * i / lados;
-      puntos << c + QPointF(r * std::cos(a), r * std::sin(a));
-    }
-    superficie(std::move(puntos), p.pluma, p.relleno);
+  void area(const Puntos& puntos, const TrazoHoja& trazo, std::optional<Color> relleno) override {
+    pintor_.setBrush(relleno ? QBrush(tinta(*relleno)) : QBrush(Qt::NoBrush));
+    usar(trazo);
+    pintor_.drawPolygon(enQt(puntos), Qt::OddEvenFill);
   }
 
-  void operator()(const PrimTexto& p) {
-    const double pixeles = p.letra.puntos * pixelesPorPunto * aumento_;
-    const double alcance = pixeles * (static_cast<double>(p.texto.size()) + 1);
-    const QPointF en = punto(p.en);
-    if (!(pixeles > 0) || !destino_.adjusted(-alcance, -alcance, alcance, alcance).contains(en)) return;
-    usar(p.letra);
-    pintor_.setPen(tinta(p.color));
+  void texto(const TextoHoja& t) override {
+    usar(t.texto.letra);
+    pintor_.setPen(tinta(t.texto.color));
     pintor_.save();
-    pintor_.translate(en);
-    if (p.letra.angulo != 0) pintor_.rotate(-p.letra.angulo);
-    pintor_.scale(pixeles / letraHecha, pixeles / letraHecha);
-    pintor_.drawText(QPointF(0, ascensoLetra * letraHecha), aQt(p.texto));
+    pintor_.translate(enQt(t.en));
+    if (t.texto.letra.angulo != 0) pintor_.rotate(-t.texto.letra.angulo);
+    pintor_.scale(t.tamano / letraHecha, t.tamano / letraHecha);
+    pintor_.drawText(QPointF(0, ascensoLetra * letraHecha), aQt(t.texto.texto));
     pintor_.restore();
   }
 
  private:
-  QPointF punto(Punto p) const {
-    return {destino_.left() + (p.x - escala_.izquierda) * x_, destino_.top() + (p.y - escala_.arriba) * y_};
-  }
-
-  /// Width of a line. It never becomes thinner than a hair that the eye finds, and on a screen it has whole points.
-  double ancho(const Pluma& pluma) const {
-    const double a = std::max(pluma.grosor * pixel_, std::min(pixel_, 0.8));
-    return aPuntos_ ? puntosDeAncho(a) / aPuntos_->m22() : a;
-  }
   int puntosDeAncho(double ancho) const { return std::max(1, static_cast<int>(std::lround(ancho * aPuntos_->m22()))); }
 
-  /// A course on the points of the screen or image; on paper and in vector files it stays as it is.
-  QPolygonF nitidos(QPolygonF puntos, const Pluma& pluma, bool cerrado) const {
-    if (!aPuntos_) return puntos;
-    return aPuntos_->inverted().map(
-        sobrePixeles(aPuntos_->map(puntos), puntosDeAncho(ancho(pluma)), cerrado, aPuntos_->mapRect(destino_)));
-  }
-
-  void usar(const Pluma& pluma) {
-    const double ancho = this->ancho(pluma);
-    QPen p(tinta(pluma.color), ancho, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
-    if (pluma.estilo != EstiloLinea::solida) {
-      QVector<qreal> t = trazos(pluma.estilo);
-      for (qreal& largo : t) largo *= pixel_ / ancho;
-      p.setDashPattern(t);
+  void usar(const TrazoHoja& trazo) {
+    QPen p(tinta(trazo.color), trazo.ancho, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
+    if (!trazo.guiones.empty()) {
+      QList<qreal> guiones;
+      for (const double largo : trazo.guiones) guiones << largo / trazo.ancho;
+      p.setDashPattern(guiones);
     }
     pintor_.setPen(p);
   }
@@ -158,44 +118,9 @@ class Repeticion {
     letraEnUso_ = letra;
   }
 
-  void linea(const QLineF& l, const Pluma& pluma) {
-    const QLineF visible = recortar(l, marco_);
-    if (visible.isNull()) return;
-    usar(pluma);
-    const QPolygonF extremos = nitidos({visible.p1(), visible.p2()}, pluma, false);
-    pintor_.drawLine(extremos[0], extremos[1]);
-  }
-
-  void superficie(QPolygonF puntos, const Pluma& pluma, const Relleno& relleno) {
-    const QRectF caja = puntos.boundingRect();
-    if (caja.left() > marco_.right() || caja.right() < marco_.left() || caja.top() > marco_.bottom() ||
-        caja.bottom() < marco_.top())
-      return;
-    if (!marco_.contains(caja)) puntos = recortar(puntos, marco_);
-    if (puntos.isEmpty()) return;
-    puntos = nitidos(std::move(puntos), pluma, true);
-    if (relleno.estilo == EstiloRelleno::cruzadoDiagonal) {
-      usar(Pluma{relleno.color, EstiloLinea::solida, 1});
-      const auto rayas = rayadoCruzado(puntos, destino_.topLeft(), pasoRayado * pixel_);
-      pintor_.drawLines(rayas.data(), static_cast<int>(rayas.size()));
-    }
-    if (relleno.estilo == EstiloRelleno::solido)
-      pintor_.setBrush(tinta(relleno.color));
-    else
-      pintor_.setBrush(Qt::NoBrush);
-    usar(pluma);
-    pintor_.drawPolygon(puntos, Qt::OddEvenFill);
-  }
-
   QPainter& pintor_;
-  QRectF destino_;
-  QRectF marco_;
-  EscalaLienzo escala_;
-  double x_;
-  double y_;
-  double pixel_;                       ///< one pixel of the picture at its own size
-  double aumento_;                     ///< how much larger than at its reference height the picture is painted
   std::optional<QTransform> aPuntos_;  ///< to the points of the screen or image; none where lines have no points
+  Marco hoja_;                         ///< in those points
   std::optional<Letra> letraEnUso_;
 };
 
@@ -207,10 +132,8 @@ void pintar(const Lienzo& lienzo, QPainter& pintor, const QRectF& destino) {
   pintor.fillRect(destino, Qt::white);
   pintor.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   pintor.setLayoutDirection(Qt::LeftToRight);
-  if (lienzo.ScaleWidth() != 0 && lienzo.ScaleHeight() != 0 && !destino.isEmpty()) {
-    Repeticion repeticion(lienzo, pintor, destino);
-    for (const Primitiva& p : lienzo.primitivas()) std::visit(repeticion, p);
-  }
+  PapelQt papel(pintor, destino);
+  repetir(lienzo, deQt(destino), papel);
   pintor.restore();
 }
 

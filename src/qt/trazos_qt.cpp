@@ -97,7 +97,7 @@ class Repeticion : public PintorTrazos {
 
 TrazosQt::TrazosQt(const QString& archivo) {
   QFile entrada(archivo);
-  if (!entrada.open(QIODevice::ReadOnly)) return;
+  if (archivo.isEmpty() || !entrada.open(QIODevice::ReadOnly)) return;
   datos_ = entrada.readAll();
   trazos_ = Trazos({datos_.constData(), static_cast<std::size_t>(datos_.size())});
 }
@@ -108,7 +108,7 @@ QRectF TrazosQt::lugarEn(const QRectF& marco) const {
   return {marco.center() - QPointF(t.width() / 2, t.height() / 2), t};
 }
 
-void TrazosQt::pintar(QPainter& pintor, const QRectF& lugar) const {
+void TrazosQt::pintar(QPainter& pintor, const QRectF& lugar, const std::vector<RotuloTrazo>& encima) const {
   if (!valido() || lugar.isEmpty()) return;
   const EscalaLienzo c = trazos_.caja();
   pintor.save();
@@ -118,6 +118,7 @@ void TrazosQt::pintar(QPainter& pintor, const QRectF& lugar) const {
   pintor.translate(-c.izquierda, -c.arriba);
   Repeticion repeticion(pintor);
   trazos_.repetir(repeticion);
+  for (const RotuloTrazo& r : encima) repeticion.rotulo(r);
   pintor.restore();
 }
 

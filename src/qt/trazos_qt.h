@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include <QByteArray>
 #include <QRectF>
 #include <QSizeF>
@@ -22,8 +24,8 @@ class TrazosQt {
   QSizeF caja() const { return {trazos_.caja().ancho, trazos_.caja().alto}; }
   /// The largest rectangle of the picture's proportions inside another one, centred; empty without a picture.
   QRectF lugarEn(const QRectF& marco) const;
-  /// Paints the whole picture into the rectangle, smoothed.
-  void pintar(QPainter& pintor, const QRectF& lugar) const;
+  /// Paints the whole picture into the rectangle, smoothed, and texts upon it.
+  void pintar(QPainter& pintor, const QRectF& lugar, const std::vector<RotuloTrazo>& encima = {}) const;
   const Trazos& trazos() const { return trazos_; }
 
  private:

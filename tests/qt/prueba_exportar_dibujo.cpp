@@ -1,5 +1,3 @@
-#include <algorithm>
-#include <cmath>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <string>
@@ -7,11 +5,8 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QImage>
-#include <QPainter>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QSvgRenderer>
 #include <QTemporaryDir>
 
 #include "plataforma/lienzo.h"
@@ -48,37 +43,6 @@ class Exportar : public testing::Test {
   QString ruta(const char* nombre) const { return carpeta_.filePath(nombre); }
   QTemporaryDir carpeta_;
 };
-
-TEST_F(Exportar, SvgConTextosYElMismoDibujoQueElPng) {
-  exportarDibujo(muestra(), deQt(ruta("a.svg")));
-  exportarDibujo(muestra(), deQt(ruta("a.PNG")));
-  const QString svg = QString::fromUtf8(leer(ruta("a.svg")));
-  EXPECT_TRUE(svg.contains("<text"));
-  EXPECT_TRUE(svg.contains("Canal aguas arriba; m³/s"));
-  EXPECT_FALSE(svg.contains("<image"));
-
-  const QImage png(ruta("a.PNG"));
-  ASSERT_EQ(png.size(), QSize(3 * 865, 3 * 433));
-  QImage deSvg(png.size(), QImage::Format_RGB32);
-  deSvg.fill(Qt::white);
-  QSvgRenderer lector(ruta("a.svg"));
-  ASSERT_TRUE(lector.isValid());
-  QPainter p(&deSvg);
-  lector.render(&p);
-  p.end();
-  // a line of the image may lie up to half a pixel beside the vector's, to cover pixels whole
-  const auto parecido = [&](int x, int y) {
-    for (const auto& [dx, dy] : {std::pair{0, 0}, {1, 0}, {-1, 0}, {0, 1}, {0, -1}})
-      if (deSvg.valid(x + dx, y + dy) &&
-          std::abs(png.pixelColor(x, y).lightness() - deSvg.pixelColor(x + dx, y + dy).lightness()) <= 100)
-        return true;
-    return false;
-  };
-  int distintos = 0;
-  for (int y = 0; y < png.height(); ++y)
-    for (int x = 0; x < png.width(); ++x) distintos += !parecido(x, y);
-  EXPECT_LT(distintos, 3 * 600);
-}
 
 TEST_F(Exportar, PdfConLetrasDeSuTamanoTambienEnUnaPantallaAumentada) {
   // this very program writes the file, with the desktop scaled to 125 %

@@ -1,15 +1,13 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include <QBuffer>
 #include <QImage>
 #include <QPainter>
-#include <QSvgGenerator>
 
+#include "dibujo/svg.h"
 #include "plataforma/lienzo.h"
 #include "plataforma/medidas.h"
 #include "qt/pintor.h"
-#include "qt/recorte.h"
 
 namespace calvento {
 namespace {
@@ -180,16 +178,9 @@ TEST(Pintor, UnaLineaDeUnPixelCubrePixelesEnterosYEnUnVectorQuedaDondeEsta) {
       EXPECT_TRUE(filas == escala && columnas == escala && mezclados == 0)
           << escala << ' ' << pixel << ": " << filas << ", " << columnas << ", " << mezclados;
     }
-  QByteArray svg;
-  QBuffer memoria(&svg);
-  QSvgGenerator generador;
-  generador.setOutputDevice(&memoria);
   l.Cls();
   l.Polyline({{0, 105 - 60.25 / 40}, {10, 105 - 60.25 / 40}});
-  QPainter p(&generador);
-  pintar(l, p, QRectF(0, 0, 400, 200));
-  p.end();
-  EXPECT_TRUE(svg.contains("60.25")) << svg.toStdString();
+  EXPECT_NE(comoSvg(l, {}).find("60.25"), std::string::npos) << comoSvg(l, {});
 }
 
 TEST(Pintor, LoLejanoNoEstorba) {
@@ -205,13 +196,6 @@ TEST(Pintor, LoLejanoNoEstorba) {
   EXPECT_EQ(i.pixelColor(200, 150), QColor(0, 255, 255));
   EXPECT_EQ(i.pixelColor(200, 80), QColor(Qt::white));
   EXPECT_GT(noBlancos(i, QRect(0, 48, 400, 4)), 200);
-}
-
-TEST(Recorte, LineasYPoligonosEnSuMarco) {
-  const QRectF marco(0, 0, 10, 10);
-  EXPECT_EQ(recortar(QLineF(-5, 5, 15, 5), marco), QLineF(0, 5, 10, 5));
-  EXPECT_TRUE(recortar(QLineF(11, 0, 20, 9), marco).isNull());
-  EXPECT_EQ(recortar(QPolygonF({{-5, -5}, {20, -5}, {20, 5}, {-5, 5}}), marco).boundingRect(), QRectF(0, 0, 10, 5));
 }
 
 }  // namespace
