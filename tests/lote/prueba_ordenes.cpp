@@ -41,15 +41,16 @@ void correrOrden(const Json& orden) {
   const Json archivos = orden.value("archivos", Json::object());
   for (const auto& [nombre, que] : archivos.items()) hacerArchivo(carpeta, nombre, que);
   const auto argumentos = orden["orden"].get<std::vector<std::string>>();
-  const bool dibuja = std::find(argumentos.begin(), argumentos.end(), "--dibujo") != argumentos.end();
+  // without Qt a drawing is an SVG
+  const bool deQt = !conQt && std::any_of(argumentos.begin(), argumentos.end(), [](const std::string& a) {
+    return a.ends_with(".png") || a.ends_with(".PDF");
+  });
   for (const Json& antes : orden.value("antes", Json::array()))
-    if (conQt || !dibuja) {
-      EXPECT_EQ(correr(antes.get<std::vector<std::string>>()).estado, 0) << antes;
-    }
+    EXPECT_EQ(correr(antes.get<std::vector<std::string>>()).estado, 0) << antes;
   const Corrida c = correr(argumentos);
-  if (!conQt && dibuja) {
+  if (deQt) {
     EXPECT_EQ(c.estado, 2);
-    EXPECT_NE(c.errores.find("opción desconocida: --dibujo"), std::string::npos) << c.errores;
+    EXPECT_NE(c.errores.find("debe terminar en .svg"), std::string::npos) << c.errores;
     return;
   }
   EXPECT_EQ(c.estado, orden.value("estado", 0)) << c.errores;
