@@ -71,7 +71,8 @@ const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
   return ventanas;
 }
 
-Aplicacion::Aplicacion(Dialogos& dialogos, SistemaVentanas& sistema) : dialogos_(dialogos), sistema_(sistema) {}
+Aplicacion::Aplicacion(Dialogos& dialogos, SistemaVentanas& sistema, ConexionAplicacion* cad)
+    : dialogos_(dialogos), sistema_(sistema), cad_{dxf_, cad} {}
 
 Aplicacion::~Aplicacion() {
   // data windows hold references to the parameter windows, so those go last

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "aplicacion/form_manual.h"
+#include "cad/destinos.h"
 #include "cad/dibujo_dxf.h"
 #include "memoria/form_memoria.h"
 #include "modelo/design_state.h"
@@ -21,7 +22,8 @@ namespace calvento {
 /// Holds the one design record and the single instance of every window, and shows and unloads windows by their name.
 class Aplicacion : public Navegador {
  public:
-  Aplicacion(Dialogos& dialogos, SistemaVentanas& sistema);
+  /// `cad` is the application that drawings can be sent to beside a file; nullptr where there is none.
+  Aplicacion(Dialogos& dialogos, SistemaVentanas& sistema, ConexionAplicacion* cad = nullptr);
   ~Aplicacion() override;
 
   /// Start-up: shows the main window and the About box.
@@ -75,7 +77,8 @@ class Aplicacion : public Navegador {
   SistemaVentanas& sistema_;
   /// What each data window calculated last, for its report.
   std::map<std::string, std::shared_ptr<const DisenoComprobado>, std::less<>> disenos_;
-  ConexionDxf cad_{dialogos_};
+  ConexionDxf dxf_{dialogos_};
+  DestinosCad cad_;
   std::map<std::string, std::unique_ptr<Ventana>, std::less<>> ventanas_;
   std::vector<std::unique_ptr<Ventana>> salientes_;  ///< unloaded, alive until the running event has ended
 };

@@ -1,28 +1,14 @@
 #include "cad/dibujo_dxf.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "cad/escritor_dxf.h"
+#include "cad/exigencias.h"
 #include "modelo/guardado.h"
 #include "modelo/rutas.h"
 
 namespace calvento {
-
-namespace {
-
-/// A number that is none would make the whole file worthless.
-double exigir(double v) {
-  if (!std::isfinite(v)) throw FalloCad("Una coordenada del dibujo no tiene valor");
-  return v;
-}
-const PuntoCad& exigir(const PuntoCad& p) {
-  exigir(p.x), exigir(p.y), exigir(p.z);
-  return p;
-}
-
-}  // namespace
 
 DibujoDxf::DibujoDxf(std::string archivo) : archivo_(std::move(archivo)) {}
 
@@ -46,8 +32,7 @@ CapaCad& DibujoDxf::capa(const std::string& nombre) {
 }
 
 TextoCad& DibujoDxf::AddText(const std::string& texto, const PuntoCad& en, double altura) {
-  if (!(exigir(altura) > 0)) throw FalloCad("La altura de un texto debe ser mayor que 0");
-  datos_.entidades.push_back({TextoDxf{exigir(en), texto, altura}});
+  datos_.entidades.push_back({TextoDxf{exigir(en), texto, exigirAlturaTexto(altura)}});
   return texto_;
 }
 
@@ -57,17 +42,16 @@ EntidadCad& DibujoDxf::AddLine(const PuntoCad& a, const PuntoCad& b) {
 }
 
 EntidadCad& DibujoDxf::AddPolyline(const std::vector<double>& vertices) {
-  if (vertices.size() < 6 || vertices.size() % 3 != 0) throw FalloCad("Una polilínea necesita dos puntos o más");
   PolilineaDxf p;
+  exigirVertices(vertices);
   for (std::size_t i = 0; i < vertices.size(); i += 3)
-    p.vertices.push_back(exigir(PuntoCad{vertices[i], vertices[i + 1], vertices[i + 2]}));
+    p.vertices.push_back({vertices[i], vertices[i + 1], vertices[i + 2]});
   datos_.entidades.push_back({std::move(p)});
   return entidad_;
 }
 
 EntidadCad& DibujoDxf::AddCircle(const PuntoCad& centro, double radio) {
-  if (!(exigir(radio) > 0)) throw FalloCad("El radio de un círculo debe ser mayor que 0");
-  datos_.entidades.push_back({CirculoDxf{exigir(centro), radio}});
+  datos_.entidades.push_back({CirculoDxf{exigir(centro), exigirRadio(radio)}});
   return entidad_;
 }
 

@@ -8,8 +8,9 @@ namespace calvento {
 /// Sends a chute to a CAD drawing.
 class Form12 : public MarcoExportar {
  public:
-  Form12(DesignState& estado, const Form2& parametros, Dialogos& dialogos, Navegador& navegador, ConexionCad& conexion)
-      : MarcoExportar("Form12", estado, dialogos, navegador, conexion), parametros_(parametros) {}
+  Form12(DesignState& estado, const Form2& parametros, Dialogos& dialogos, Navegador& navegador,
+         const DestinosCad& destinos)
+      : MarcoExportar("Form12", estado, dialogos, navegador, destinos), parametros_(parametros) {}
 
  private:
   Cuadricula cuadricula() const override;

@@ -8,8 +8,9 @@ namespace calvento {
 /// Sends a vertical drop to a CAD drawing.
 class Form18 : public MarcoExportar {
  public:
-  Form18(DesignState& estado, const Form25& parametros, Dialogos& dialogos, Navegador& navegador, ConexionCad& conexion)
-      : MarcoExportar("Form18", estado, dialogos, navegador, conexion), parametros_(parametros) {}
+  Form18(DesignState& estado, const Form25& parametros, Dialogos& dialogos, Navegador& navegador,
+         const DestinosCad& destinos)
+      : MarcoExportar("Form18", estado, dialogos, navegador, destinos), parametros_(parametros) {}
 
  private:
   Cuadricula cuadricula() const override { return cuadriculaCaida(); }

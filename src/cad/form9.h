@@ -8,8 +8,9 @@ namespace calvento {
 /// Sends an inclined drop to a CAD drawing.
 class Form9 : public MarcoExportar {
  public:
-  Form9(DesignState& estado, const Form2& parametros, Dialogos& dialogos, Navegador& navegador, ConexionCad& conexion)
-      : MarcoExportar("Form9", estado, dialogos, navegador, conexion), parametros_(parametros) {}
+  Form9(DesignState& estado, const Form2& parametros, Dialogos& dialogos, Navegador& navegador,
+        const DestinosCad& destinos)
+      : MarcoExportar("Form9", estado, dialogos, navegador, destinos), parametros_(parametros) {}
 
  private:
   Cuadricula cuadricula() const override { return cuadriculaCaida(); }

@@ -30,12 +30,24 @@ MarcoExportar::Cuadricula MarcoExportar::cuadriculaCaida() const {
 }
 
 MarcoExportar::MarcoExportar(std::string_view nombre, DesignState& estado, Dialogos& dialogos, Navegador& navegador,
-                             ConexionCad& conexion)
-    : Ventana(nombre, "Exportar Diseño al AutoCAD 2010"), estado_(estado), dialogos_(dialogos), conexion_(conexion) {
+                             const DestinosCad& destinos)
+    : Ventana(nombre, "Exportar Diseño al AutoCAD 2010"), estado_(estado), dialogos_(dialogos), destinos_(destinos) {
+  ofrecerDestinos();
   osProgress1.Visible = false;
   seleccionarAlEnfocar(*this);
   Command3.Click = [this] { Command3_Click(); };
   Command4.Click = [this, &navegador] { navegador.descargar(*this); };
+}
+
+void MarcoExportar::ofrecerDestinos() {
+  using Presencia = ConexionAplicacion::Presencia;
+  const Presencia presencia = destinos_.aplicacion == nullptr ? Presencia::ninguna : destinos_.aplicacion->presencia();
+  Option1.Visible = Option2.Visible = presencia != Presencia::ninguna;
+  if (presencia == Presencia::abierta) Option1.Value = true;
+}
+
+ConexionCad& MarcoExportar::conexion() {
+  return Option1.Value && destinos_.aplicacion != nullptr ? *destinos_.aplicacion : destinos_.archivo;
 }
 
 void MarcoExportar::Command3_Click() {
@@ -48,10 +60,11 @@ void MarcoExportar::Command3_Click() {
     estado_.cadIntervaloV = Val(Text10.Text);
     estado_.cadIntervaloH = Val(Text11.Text);
     estado_.cadAlturaTexto = Val(Text12.Text);
-    AplicacionCad* cad = conexion_.obtener();
-    if (cad == nullptr) cad = conexion_.crear();
+    ConexionCad& con = conexion();
+    AplicacionCad* cad = con.obtener();
+    if (cad == nullptr) cad = con.crear();
     if (cad == nullptr) {
-      motivo_ = conexion_.error();
+      motivo_ = con.error();
       dialogos_.aviso(motivo_);
       return;
     }

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "cad/aplicacion_cad.h"
+#include "cad/destinos.h"
 #include "cad/envio.h"
 #include "cad/hoja_cad.h"
 #include "modelo/design_state.h"
@@ -22,6 +22,9 @@ class MarcoExportar : public Ventana {
   TextBox Text11{*this, "Text11", "5"};     ///< between vertical lines, m
   TextBox Text12{*this, "Text12", "0.15"};  ///< height of the texts, drawing units
   CheckBox Check1{*this, "Check1"};         ///< also the energy line
+  /// Where the drawing goes; not shown where there is no choice.
+  OptionButton Option1{*this, "Option1", 1, false};  ///< to the application beside the program
+  OptionButton Option2{*this, "Option2", 1, true};   ///< to a DXF file
   ProgressBar osProgress1{*this, "osProgress1"};
   CommandButton Command3{*this, "Command3"};
   CommandButton Command4{*this, "Command4"};
@@ -33,7 +36,7 @@ class MarcoExportar : public Ventana {
 
  protected:
   MarcoExportar(std::string_view nombre, DesignState& estado, Dialogos& dialogos, Navegador& navegador,
-                ConexionCad& conexion);
+                const DestinosCad& destinos);
 
   /// What the grid encloses, in whole metres: stations and elevations.
   struct Cuadricula {
@@ -47,6 +50,8 @@ class MarcoExportar : public Ventana {
   const DesignState& estado() const { return estado_; }
 
  private:
+  void ofrecerDestinos();
+  ConexionCad& conexion();
   void exportar(AplicacionCad& cad);
   void enviarCuadricula(AplicacionCad& cad);
   void enviarFigura(Envio& envio, const HojaCad& figura);
@@ -55,7 +60,7 @@ class MarcoExportar : public Ventana {
 
   DesignState& estado_;
   Dialogos& dialogos_;
-  ConexionCad& conexion_;
+  DestinosCad destinos_;
   std::string motivo_;
 };
 

@@ -66,7 +66,8 @@ int main(int argc, char** argv) {
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
   calvento::AplicacionQt aplicacion(argc, argv);
   calvento::DialogosQt dialogos;
-  calvento::Programa programa(dialogos);
+  const auto objetos = calvento::objetosDelSistema();
+  calvento::Programa programa(dialogos, objetos.get());
   const auto abrir = [&](const std::string& archivo) {
     // as after a file dialog: the project is saved back into its own folder
     calvento::usarCarpetaDe(archivo);

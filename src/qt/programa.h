@@ -1,5 +1,8 @@
 #pragma once
 
+#include <memory>
+
+#include "activex/conexion_activex.h"
 #include "aplicacion/aplicacion.h"
 #include "aplicacion/form_manual.h"
 #include "qt/cadena.h"
@@ -10,7 +13,11 @@ namespace calvento {
 
 /// The whole desktop program behind a set of boxes.
 struct Programa {
-  explicit Programa(Dialogos& dialogos) : sistema(dialogos), aplicacion(dialogos, sistema) {
+  /// `objetos` is the way to other programs; nullptr for none.
+  explicit Programa(Dialogos& dialogos, SistemaObjetos* objetos = nullptr)
+      : sistema(dialogos),
+        cad(objetos == nullptr ? nullptr : std::make_unique<ConexionActiveX>(*objetos)),
+        aplicacion(dialogos, sistema, cad.get()) {
     sistema.responder(aplicacion);
     sistema.alPedirAyuda = [this](std::string_view ventana) {
       aplicacion.ayuda(ventana).alPedirEjemplo = [this](const std::string& nombre) {
@@ -24,6 +31,7 @@ struct Programa {
   Programa& operator=(const Programa&) = delete;
 
   SistemaQt sistema;
+  std::unique_ptr<ConexionActiveX> cad;
   Aplicacion aplicacion;
 };
 
