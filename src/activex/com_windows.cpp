@@ -6,7 +6,6 @@
 #ifndef NOMINMAX
 #define NOMINMAX
 #endif
-#include <oleauto.h>
 #include <windows.h>
 
 #include "activex/hilo_llamadas.h"

@@ -2,7 +2,6 @@
 
 #ifdef _WIN32
 
-#include <oleauto.h>
 #include <string>
 #include <windows.h>
 

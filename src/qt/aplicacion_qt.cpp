@@ -7,11 +7,13 @@
 #include "comun/version.h"
 #include "qt/cadena.h"
 #include "qt/enlace.h"
+#include "qt/letras.h"
 #include "qt/textos_es.h"
 
 namespace calvento {
 
 AplicacionQt::AplicacionQt(int& argc, char** argv) : QApplication(argc, argv) {
+  cargarLetras();
   QLocale::setDefault(QLocale::c());
   setApplicationName(QStringLiteral("Calvento"));
   setApplicationVersion(aQt(version()));

@@ -18,6 +18,7 @@
 #include "modelo/rutas.h"
 #include "qt/cadena.h"
 #include "qt/carpeta_sesion.h"
+#include "qt/letras.h"
 #include "qt/pintor.h"
 
 namespace calvento {
@@ -67,8 +68,10 @@ void asegurarAplicacionGrafica() {
   static char* argumentos[] = {nombre, opcion, valor, nullptr};
   static int cuantos = 3;
   static const CarpetaSesion carpeta;
+  anunciarLetras();
   const QtMessageHandler antes = qInstallMessageHandler(callarCarpetas);
   static QGuiApplication aplicacion(cuantos, argumentos);
+  cargarLetras();
   qInstallMessageHandler(antes);
 }
 

@@ -8,7 +8,6 @@
 
 #ifdef _WIN32
 #include <string>
-
 #include <windows.h>
 #endif
 
