@@ -5,6 +5,7 @@
 
 #include "activex/registro.h"
 #include "activex/variante.h"
+#include "modelo/rutas.h"
 
 namespace calvento {
 namespace {
