@@ -106,8 +106,10 @@ class Nodo : public IDispatch {
 std::wstring carpetaDe(const std::string& que) { return enAncho("Software\\Classes\\" + que); }
 
 void poner(const std::string& carpeta, const std::wstring& valor) {
-  ::RegSetKeyValueW(HKEY_CURRENT_USER, carpetaDe(carpeta).c_str(), nullptr, REG_SZ, valor.c_str(),
-                    static_cast<DWORD>((valor.size() + 1) * sizeof(wchar_t)));
+  // Wine looks for classes among those of the machine only
+  for (const HKEY de : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE})
+    ::RegSetKeyValueW(de, carpetaDe(carpeta).c_str(), nullptr, REG_SZ, valor.c_str(),
+                      static_cast<DWORD>((valor.size() + 1) * sizeof(wchar_t)));
 }
 
 int correr() {
@@ -136,8 +138,10 @@ int main(int argc, char** argv) {
     return 0;
   }
   if (orden == "--borrar") {
-    ::RegDeleteTreeW(HKEY_CURRENT_USER, carpetaDe(clase).c_str());
-    ::RegDeleteTreeW(HKEY_CURRENT_USER, carpetaDe(std::string("CLSID\\") + id).c_str());
+    for (const HKEY de : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
+      ::RegDeleteTreeW(de, carpetaDe(clase).c_str());
+      ::RegDeleteTreeW(de, carpetaDe(std::string("CLSID\\") + id).c_str());
+    }
     return 0;
   }
   return correr();
