@@ -71,7 +71,11 @@ void PaginasMemoria::medir() {
     barra->setPageStep(visto);
   };
   poner(verticalScrollBar(), arribaDe(maqueta_->paginas()), viewport()->height());
-  poner(horizontalScrollBar(), mayor + 2 * separacion, viewport()->width());
+  // what is in the middle stays there, at first the middle of the pages: drawings are wider than the rest
+  QScrollBar& barra = *horizontalScrollBar();
+  const double parte = barra.maximum() == 0 ? 0.5 : double(barra.value()) / barra.maximum();
+  poner(&barra, mayor + 2 * separacion, viewport()->width());
+  barra.setValue(static_cast<int>(std::lround(parte * barra.maximum())));
 }
 
 void PaginasMemoria::irA(int pagina) {

@@ -73,6 +73,9 @@ VistaMemoria::VistaMemoria(QWidget* padre) : QWidget(padre) {
 
   capitulos_ = new QListWidget(this);
   capitulos_->setAccessibleName(QStringLiteral("Capítulos"));
+  capitulos_->setWordWrap(true);
+  capitulos_->setResizeMode(QListView::Adjust);
+  capitulos_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   connect(capitulos_, &QListWidget::currentRowChanged, this, [this](int fila) { irACapitulo(fila); });
   auto* caratula = new QGroupBox(QStringLiteral("Carátula"), this);
   auto* campos = new QFormLayout(caratula);

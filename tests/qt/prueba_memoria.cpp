@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMainWindow>
+#include <QScrollBar>
 #include <QSettings>
 #include <QTest>
 #include <QToolButton>
@@ -14,6 +15,7 @@
 #include "estructura/ventana_estructura.h"
 #include "qt/cadena.h"
 #include "qt/maqueta_memoria.h"
+#include "qt/paginas_memoria.h"
 #include "qt/programa.h"
 #include "qt/vista_memoria.h"
 
@@ -42,6 +44,12 @@ class VentanaDeMemoria : public testing::Test {
     throw std::runtime_error(nombre);
   }
 
+  static QWidget* paginas(Programa& p) {
+    for (auto* w : vista(p).findChildren<QWidget*>())
+      if (w->accessibleName() == "Páginas de la memoria") return w;
+    return nullptr;
+  }
+
   CarpetaPrueba carpeta;
   DialogosGuion dialogos;
 };
@@ -65,6 +73,9 @@ TEST_F(VentanaDeMemoria, TheStatusBarCountsAfterEachCalculationAndOpensTheChapte
   f.Command3_Click();
   EXPECT_EQ(panel(p).text(), antes);
   EXPECT_GE(vista(p).maqueta()->paginas(), 14);
+  const QScrollBar* alLado = dynamic_cast<PaginasMemoria&>(*paginas(p)).horizontalScrollBar();
+  EXPECT_GT(alLado->maximum(), 0) << "a drawing is wider than the view";
+  EXPECT_NEAR(alLado->value(), alLado->maximum() / 2., 1) << "the text pages are whole";
   f.Text5.Text = "";
   f.Command3_Click();
   EXPECT_TRUE(panel(p).isHidden());
