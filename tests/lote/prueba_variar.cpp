@@ -76,10 +76,10 @@ TEST(Variar, TheTableHoldsWhatTheObjectsHold) {
   for (std::size_t i = 0; i < objetos.size(); ++i) {
     const auto& o = objetos[i];
     ASSERT_EQ(tabla[i + 1].size(), tabla[0].size());
-    EXPECT_EQ(celda(i + 1, "archivo"), o["archivo"]);
+    EXPECT_EQ(celda(i + 1, "archivo"), o["archivo"].get<std::string>());
     EXPECT_EQ(celda(i + 1, "Q (m³/s)"), i % 2 == 0 ? "0.8" : "1.6");
     EXPECT_EQ(celda(i + 1, "Form2.Text9 (grados)"), "20");
-    EXPECT_EQ(celda(i + 1, "calculado"), o["calculado"] == true ? "sí" : "no");
+    EXPECT_EQ(celda(i + 1, "calculado"), o["calculado"].get<bool>() ? "sí" : "no");
     for (const auto& [titulo, campo] : {std::pair{"y1 (m)", "y1"}, {"longPoza (m)", "longPoza"}, {"fr1", "fr1"}})
       EXPECT_FLOAT_EQ(std::stof("0" + celda(i + 1, titulo)),
                       o["calculado"] == true ? o["estado"][campo].get<float>() : 0);
