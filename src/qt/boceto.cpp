@@ -25,6 +25,14 @@ QRect por(const QRect& r, qreal escala) {
   return {QPoint(en(r.left()), en(r.top())), QPoint(en(r.right() + 1) - 1, en(r.bottom() + 1) - 1)};
 }
 
+/// Growing does not help letters that grow with the sketch: where a system's are wider, they take the room on both
+/// sides.
+void ensanchar(QWidget& w) {
+  const QSize falta = w.minimumSizeHint().expandedTo(w.size()) - w.size();
+  w.setGeometry(w.geometry().marginsAdded(
+      {falta.width() / 2, falta.height() / 2, (falta.width() + 1) / 2, (falta.height() + 1) / 2}));
+}
+
 bool cabe(const QWidget& w) {
   const QSize falta = w.minimumSizeHint().expandedTo(w.minimumSize());
   return falta.width() <= w.width() && std::max(falta.height(), w.heightForWidth(w.width())) <= w.height();
@@ -65,6 +73,7 @@ void Boceto::poner(qreal escala) {
     QFont letra = p.widget->font();
     letra.setPointSizeF(p.puntos * escala);
     p.widget->setFont(letra);
+    if (!p.lugar.isNull()) ensanchar(*p.widget);
   }
   // from the inside out, at once: layouts would hear of it in the next event only
   for (auto p = partes_.rbegin(); p != partes_.rend(); ++p)
