@@ -63,7 +63,7 @@ void VentanaEstructura::vigilar(Evento alSustituir, Evento alCoincidir) {
 
 Trabajo VentanaEstructura::trabajo() const {
   Trabajo t = proyecto_.trabajo();
-  t.calculado = calculado_;
+  t.calculado = calculado_ && mnmemoria.Enabled;  // a new project has no results
   return t;
 }
 

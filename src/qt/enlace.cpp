@@ -23,6 +23,7 @@
 #include <QTextEdit>
 #include <QToolBar>
 
+#include "plataforma/ventana_datos.h"
 #include "qt/cadena.h"
 #include "qt/vista_lienzo.h"
 #include "qt/vista_manual.h"
@@ -72,6 +73,14 @@ bool tienePartesPropias(const QWidget* w) {
          dynamic_cast<const VistaMemoria*>(w) != nullptr || dynamic_cast<const VistaManual*>(w) != nullptr;
 }
 
+/// In a data window with the place of the mark of unsaved changes. A caption that has such a place itself is shown with
+/// its letters.
+void ponerTitulo(QMainWindow& vista, const Ventana& ventana) {
+  const QString marca = QStringLiteral("[*]");
+  QString titulo = aQt(ventana.Caption.valor()).replace(marca, marca + marca);
+  vista.setWindowTitle(dynamic_cast<const VentanaDatos*>(&ventana) != nullptr ? titulo + marca : titulo);
+}
+
 }  // namespace
 
 FalloEnlace::FalloEnlace(const std::string& ventana, std::vector<std::string> controlesSolos,
@@ -100,8 +109,10 @@ Enlace::Enlace(Ventana& ventana, QMainWindow& vista, AlFallar alFallar)
       continue;
     }
     refrescos_.push_back(refresco);
-    control->alCambiar = [vivo = std::weak_ptr<bool>(vivo_), refresco] {
-      if (!vivo.expired()) refresco();
+    control->alCambiar = [this, vivo = std::weak_ptr<bool>(vivo_), refresco] {
+      if (vivo.expired()) return;
+      refresco();
+      disparar(alTocar);
     };
   }
   std::vector<std::string> widgets = widgetsSinControl();
@@ -112,7 +123,7 @@ Enlace::Enlace(Ventana& ventana, QMainWindow& vista, AlFallar alFallar)
   for (const Refresco& refresco : refrescos_) refresco();
 
   ventana.alCambiar = [this, vivo = std::weak_ptr<bool>(vivo_)] {
-    if (!vivo.expired()) vista_.setWindowTitle(aQt(ventana_->Caption.valor()));
+    if (!vivo.expired()) ponerTitulo(vista_, *ventana_);
   };
   disparar(ventana.alCambiar);
   ventana.alPedirCorreccion = [this, vivo = std::weak_ptr<bool>(vivo_)] {
@@ -133,7 +144,9 @@ void Enlace::soltar() {
 }
 
 void Enlace::atender(const std::function<void()>& accion) {
-  if (ventana_ != nullptr && accion) protegido(alFallar_, accion);
+  if (ventana_ == nullptr || !accion) return;
+  protegido(alFallar_, accion);
+  if (ventana_ != nullptr) disparar(alTocar);
 }
 
 std::vector<std::string> Enlace::widgetsSinControl() const {
@@ -176,6 +189,9 @@ bool Enlace::eventFilter(QObject* objeto, QEvent* evento) {
 /// The return key in a field, and where nobody wants it, of the default button.
 bool Enlace::alPulsarTecla(QObject* objeto, QEvent* evento) {
   auto* tecla = static_cast<QKeyEvent*>(evento);
+  for (const bool rehacer : {false, true})
+    if (alDeshacer && tecla->matches(rehacer ? QKeySequence::Redo : QKeySequence::Undo) && alDeshacer(rehacer))
+      return true;
   if (pideMenu(objeto, *tecla)) {
     evento->ignore();
     return true;

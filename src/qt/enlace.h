@@ -52,6 +52,11 @@ class Enlace : public QObject {
   /// Ends the joint: the window may go before its widgets do. To be called before the window dies.
   void soltar();
 
+  /// The user has worked in the window, or one of its controls has changed.
+  std::function<void()> alTocar;
+  /// Undo (or redo) was pressed: whether that was more than the field itself can do.
+  std::function<bool(bool rehacer)> alDeshacer;
+
   bool eventFilter(QObject* objeto, QEvent* evento) override;
 
  private:

@@ -15,7 +15,9 @@
 #include "qt/cadena.h"
 #include "qt/carpeta_sesion.h"
 #include "qt/dialogos_qt.h"
+#include "qt/lugares.h"
 #include "qt/programa.h"
+#include "qt/senales_sistema.h"
 
 namespace {
 
@@ -77,9 +79,14 @@ int main(int argc, char** argv) {
   aplicacion.alFallar = [&](const std::string& texto) { dialogos.fallo(texto); };
   aplicacion.alAbrirArchivo = abrir;
   // in the event loop, so that a fault at the start ends in a box as any other
+  const std::vector<std::string> pedidos = archivosPedidos(argc, argv);
+  calvento::volverALaCarpeta();
+  const calvento::SenalesSistema senales([&] { programa.sistema.guardarCopias(); });
   QTimer::singleShot(0, &aplicacion, [&] {
     programa.aplicacion.arrancar();
-    for (const std::string& ruta : archivosPedidos(argc, argv)) abrir(ruta);
+    for (const std::string& ruta : pedidos) abrir(ruta);
   });
-  return QCoreApplication::exec();
+  const int estado = QCoreApplication::exec();
+  calvento::guardarCarpeta();
+  return estado;
 }

@@ -38,7 +38,9 @@ void cascada(QMdiArea& area) {
 }
 
 QString rotulo(const QMdiSubWindow& hija, int numero) {
-  QString titulo = hija.windowTitle();
+  const QString marca = QStringLiteral("[*]"), letras = QStringLiteral("\x1f");
+  QString titulo = hija.windowTitle().replace(marca + marca, letras);
+  titulo.replace(marca, hija.isWindowModified() ? QStringLiteral("*") : QString()).replace(letras, marca);
   titulo.replace(u'&', QLatin1String("&&"));
   return (numero < 10 ? QStringLiteral("&%1 %2") : QStringLiteral("%1 %2")).arg(numero).arg(titulo);
 }

@@ -20,15 +20,19 @@
 #include "qt/cadena.h"
 #include "qt/ejemplos.h"
 #include "qt/impresion.h"
+#include "qt/lugares.h"
+#include "qt/menu_recuperar.h"
 #include "qt/menu_ventana.h"
+#include "qt/recientes.h"
 #include "qt/teclado.h"
 
 namespace calvento {
 
 namespace {
 
-constexpr QSize tamanoMayor{1600, 1000};  ///< the main window needs no more on a large screen
-constexpr QSize marcoEscritorio{10, 38};  ///< what a desktop puts around a window, borders and title
+constexpr QSize tamanoMayor{1600, 1000};              ///< the main window needs no more on a large screen
+constexpr const char* lugarAlAbrir = "lugarAlAbrir";  ///< property of a child: where it came up
+constexpr QSize marcoEscritorio{10, 38};              ///< what a desktop puts around a window, borders and title
 
 /// Qt deletes an object "later" only in the event loop it was told in or outside of it, never in one that was opened
 /// since: just when an event has really ended.
@@ -54,9 +58,15 @@ QPoint centrado(const QRect& lugar, const QSize& tamano) {
 SistemaQt::~SistemaQt() { cerrarTodo(); }
 
 void SistemaQt::cerrarTodo() {
-  for (auto& [nombre, abierta] : abiertas_)
+  resguardo_.terminar();
+  for (auto& [nombre, abierta] : abiertas_) {
+    resguardo_.olvidar(*abierta.ventana);
+    guardarLugarDe(abierta);
     if (abierta.enlace) abierta.enlace->soltar();
-  abiertas_.clear();
+  }
+  // a frame of its own each: the area need not hold one that is hidden
+  for (auto& [nombre, abierta] : std::exchange(abiertas_, {}))
+    if (abierta.marco != principal_) delete abierta.marco;
   enEspera_.clear();
   delete principal_;
 }
@@ -91,7 +101,7 @@ SistemaQt::Abierta& SistemaQt::crear(Ventana& ventana) {
       colocarPrincipal(v);
       break;
     case Puesto::hija:
-      marco = colocarHija(v);
+      marco = colocarHija(v, ventana.nombre());
       break;
     case Puesto::suelta:
       colocarSuelta(v);
@@ -101,17 +111,32 @@ SistemaQt::Abierta& SistemaQt::crear(Ventana& ventana) {
   if (principal_) principal_->installEventFilter(this);  // ahead of the menu bar of the new child
   Abierta& abierta = abiertas_[ventana.nombre()] = Abierta{&ventana, &v, marco, enlace, ultimo_};
   unirTeclas(abierta);
-  if (auto* datos = dynamic_cast<VentanaEstructura*>(&ventana)) unirArchivo(*datos, v);
+  auto* datos = dynamic_cast<VentanaEstructura*>(&ventana);
+  if (datos != nullptr) unirArchivo(*datos, v, *enlace);
+  if (datos != nullptr || ventana.seOculta()) enlace->alTocar = [this, &ventana] { resguardo_.tocada(ventana); };
   return abierta;
 }
 
-/// What the desktop adds to the file menu of a data window, behind its own entries.
-void SistemaQt::unirArchivo(VentanaEstructura& datos, QMainWindow& vista) {
+/// What the desktop adds to the file menu of a data window, behind its own entries, and to the keys in its fields.
+void SistemaQt::unirArchivo(VentanaEstructura& datos, QMainWindow& vista, Enlace& enlace) {
+  resguardo_.vigilar(datos, vista);
+  enlace.alDeshacer = [this, &datos](bool rehacer) { return resguardo_.deshacer(datos, rehacer); };
   auto* menu = vista.findChild<QMenu*>(QStringLiteral("mnarchivo"));
+  const auto sinCaer = [this](const std::function<void()>& accion) {
+    protegido([this](const std::string& texto) { dialogos_.fallo(texto); }, accion);
+  };
   menu->addSeparator();
-  anadirEjemplos(*menu, datos.formato(), [this, &datos](const QString& archivo) {
-    protegido([this](const std::string& texto) { dialogos_.fallo(texto); }, [&] { datos.abrirCopia(deQt(archivo)); });
+  anadirRecuperar(*menu, datos, resguardo_, [this, &datos, sinCaer](const std::string& id) {
+    sinCaer([&] { resguardo_.recuperar(datos, id); });
   });
+  anadirRecientes(*menu, datos, [&datos, sinCaer](const QString& archivo) {
+    sinCaer([&] {
+      usarCarpetaDe(deQt(archivo));
+      datos.abrir(deQt(archivo));
+    });
+  });
+  anadirEjemplos(*menu, datos.formato(),
+                 [&datos, sinCaer](const QString& archivo) { sinCaer([&] { datos.abrirCopia(deQt(archivo)); }); });
 }
 
 void SistemaQt::colocarPrincipal(QMainWindow& vista) {
@@ -123,22 +148,48 @@ void SistemaQt::colocarPrincipal(QMainWindow& vista) {
   anadirMenuVentana(vista, *area_, [this](QMdiSubWindow& hija) { traerDespues(&hija); });
   const QRect pantalla = vista.screen()->availableGeometry();
   const QSize tamano = (pantalla.size() - marcoEscritorio).boundedTo(tamanoMayor);
-  vista.resize(tamano);
-  vista.move(centrado(pantalla, tamano + marcoEscritorio));
+  const QRect inicial(centrado(pantalla, tamano + marcoEscritorio), tamano);
+  const auto lugar = lugarGuardado("frmMain", vista);
+  const QRect donde =
+      lugar ? dentroDe(pantalla.adjusted(0, 0, -marcoEscritorio.width(), -marcoEscritorio.height()), lugar->marco)
+            : inicial;
+  vista.resize(donde.size());
+  vista.move(donde.topLeft());
+  if (lugar && lugar->entera) vista.setWindowState(Qt::WindowMaximized);
 }
 
-/// A child has the size of its design, or what the area offers as long as nothing of it is lost, and stands in the
-/// middle; where its least size is larger the area scrolls.
-QWidget* SistemaQt::colocarHija(QMainWindow& vista) {
+/// For the next time it opens, and the next run. A child that nobody moved keeps coming up in the middle.
+void SistemaQt::guardarLugarDe(const Abierta& abierta) const {
+  const QWidget* marco = abierta.marco;
+  if (marco == nullptr || ventanaUi(abierta.ventana->nombre())->puesto == Puesto::suelta) return;
+  if (marco == principal_) {
+    const bool entera = marco->isMaximized();
+    guardarLugar("frmMain", *marco, {entera ? QRect() : QRect(marco->pos(), marco->size()), entera});
+    return;
+  }
+  const QRect lugar = marco->geometry() == abierta.conFranja ? abierta.sinFranja : marco->geometry();
+  if (marco->isMaximized() || marco->isMinimized() || lugar == marco->property(lugarAlAbrir).toRect()) return;
+  guardarLugar(abierta.ventana->nombre(), *marco, {lugar});
+}
+
+/// A child stands where the user has left it before. Else it has the size of its design, or what the area offers as
+/// long as nothing of it is lost, and stands in the middle; where its least size is larger the area scrolls.
+QWidget* SistemaQt::colocarHija(QMainWindow& vista, const std::string& nombre) {
   if (area_ == nullptr) return &vista;
   const QSize diseno = vista.size();
   QMdiSubWindow* marco = area_->addSubWindow(&vista);
   marco->setWindowIcon(vista.windowIcon());
   const QMargins orla = marco->contentsMargins();
   const QSize deseado = diseno.grownBy(orla).boundedTo(area_->viewport()->size());
-  marco->resize(deseado.expandedTo(vista.minimumSizeHint().expandedTo(vista.minimumSize()).grownBy(orla)));
+  const QSize minimo = vista.minimumSizeHint().expandedTo(vista.minimumSize()).grownBy(orla);
+  marco->resize(deseado.expandedTo(minimo));
   marco->setProperty(tamanoAlAbrir, marco->size());
   marco->move(centrado(area_->viewport()->rect(), marco->size()));
+  if (const auto lugar = lugarGuardado(nombre, *area_)) {
+    const QRect donde = dentroDe(area_->viewport()->rect(), lugar->marco);
+    marco->setGeometry(QRect(donde.topLeft(), donde.size().expandedTo(minimo)));
+  }
+  marco->setProperty(lugarAlAbrir, marco->geometry());
   return marco;
 }
 
@@ -159,6 +210,8 @@ void SistemaQt::cerrar(Ventana& ventana) {
   std::erase(enEspera_, &ventana);
   const Abierta* abierta = buscar(ventana);
   if (abierta == nullptr) return;
+  resguardo_.olvidar(ventana);
+  guardarLugarDe(*abierta);
   abierta->enlace->soltar();
   QWidget* marco = abierta->marco;
   abiertas_.erase(ventana.nombre());
@@ -167,7 +220,10 @@ void SistemaQt::cerrar(Ventana& ventana) {
   marco->deleteLater();
 }
 
-void SistemaQt::terminar() { QCoreApplication::exit(0); }
+void SistemaQt::terminar() {
+  resguardo_.terminar();
+  QCoreApplication::exit(0);
+}
 
 void SistemaQt::despues(std::function<void()> accion) { (new Diferida(std::move(accion)))->deleteLater(); }
 

@@ -15,6 +15,7 @@
 #include "plataforma/navegador.h"
 #include "qt/enlace.h"
 #include "qt/franja.h"
+#include "qt/resguardo.h"
 #include "qt/ventanas_ui.h"
 
 class QMainWindow;
@@ -22,8 +23,6 @@ class QMdiArea;
 class QMdiSubWindow;
 
 namespace calvento {
-
-class VentanaEstructura;
 
 /// The windows of the program on the desktop: the main window with its area for documents, the working windows in it,
 /// the About box above it. The widgets of a window are made when it is first shown and go when it is unloaded.
@@ -34,6 +33,8 @@ class SistemaQt : public QObject, public SistemaVentanas {
 
   /// Who is asked to unload a window that the user closes.
   void responder(Navegador& navegador) { navegador_ = &navegador; }
+  /// Keeps at once what the user has typed and no copy has yet.
+  void guardarCopias() { resguardo_.guardarTodo(); }
   /// Takes all widgets away; to be called before the windows die.
   void cerrarTodo();
 
@@ -72,10 +73,11 @@ class SistemaQt : public QObject, public SistemaVentanas {
   };
   Abierta* buscar(const Ventana& ventana);
   Abierta& crear(Ventana& ventana);
-  void unirArchivo(VentanaEstructura& datos, QMainWindow& vista);
+  void unirArchivo(VentanaEstructura& datos, QMainWindow& vista, Enlace& enlace);
   void colocarPrincipal(QMainWindow& vista);
-  QWidget* colocarHija(QMainWindow& vista);
+  QWidget* colocarHija(QMainWindow& vista, const std::string& nombre);
   void colocarSuelta(QMainWindow& vista);
+  void guardarLugarDe(const Abierta& abierta) const;
   void unirTeclas(const Abierta& abierta);
   void pedirAyuda(const QWidget& marco);
   void traerAlFrente(QWidget* marco);
@@ -98,6 +100,7 @@ class SistemaQt : public QObject, public SistemaVentanas {
   Calculo ultimo_;
   std::vector<Ventana*> enEspera_;  ///< what is to stand above it, shown after it
   std::map<std::string, Abierta, std::less<>> abiertas_;
+  Resguardo resguardo_;
 };
 
 }  // namespace calvento

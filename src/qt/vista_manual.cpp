@@ -19,6 +19,7 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include "qt/ajustes.h"
 #include "qt/barra.h"
 #include "qt/cadena.h"
 #include "qt/texto_manual.h"
@@ -28,6 +29,7 @@ namespace calvento {
 namespace {
 
 constexpr double tamanoMenor = 7, tamanoMayor = 26;
+const QString claveTamano = QStringLiteral("manual/letra");
 
 QIcon icono(const char* nombre) { return QIcon(QStringLiteral(":/iconos/%1.pic").arg(QLatin1String(nombre))); }
 
@@ -47,7 +49,9 @@ void afinarImagenes(QTextDocument& documento, double pixelesPorPunto) {
 
 }  // namespace
 
-VistaManual::VistaManual(QWidget* padre) : QWidget(padre), tamano_(font().pointSizeF()) {
+VistaManual::VistaManual(QWidget* padre)
+    : QWidget(padre),
+      tamano_(std::clamp(ajustes().value(claveTamano, font().pointSizeF()).toDouble(), tamanoMenor, tamanoMayor)) {
   auto* barra = new QToolBar(this);
   barra->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   const auto boton = [&](const QIcon& dibujo, const char* texto, const QKeySequence& tecla,
@@ -207,6 +211,7 @@ void VistaManual::marcarCapitulo() {
 
 void VistaManual::aumentar(double factor) {
   tamano_ = factor == 0 ? font().pointSizeF() : std::clamp(tamano_ * factor, tamanoMenor, tamanoMayor);
+  factor == 0 ? ajustes().remove(claveTamano) : ajustes().setValue(claveTamano, tamano_);
   const int antes = arriba_;
   componer();
   colocar(antes);

@@ -18,13 +18,13 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPushButton>
-#include <QSettings>
 #include <QSplitter>
 #include <QTextDocumentFragment>
 #include <QToolBar>
 #include <QVBoxLayout>
 
 #include "memoria/html.h"
+#include "qt/ajustes.h"
 #include "qt/barra.h"
 #include "qt/cadena.h"
 #include "qt/escribir_memoria.h"
@@ -37,8 +37,6 @@ namespace calvento {
 namespace {
 
 constexpr double pasoAumento = 1.25;
-
-QSettings ajustes() { return QSettings(QStringLiteral("Calvento"), QStringLiteral("Calvento")); }
 
 void decir(QWidget* dueno, const QString& texto) {
   QMessageBox caja(QMessageBox::Warning, QStringLiteral("Calvento"), texto, QMessageBox::NoButton, dueno);

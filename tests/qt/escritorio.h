@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "apoyo/dialogos_guion.h"
+#include "qt/ajustes.h"
 #include "qt/programa.h"
 
 namespace calvento {
@@ -17,6 +18,7 @@ namespace calvento {
 class EnElEscritorio : public testing::Test {
  protected:
   void SetUp() override {
+    ajustes().clear();  // no place of an earlier test
     programa.aplicacion.arrancar();
     ASSERT_TRUE(QTest::qWaitFor([this] { return vista("frmAbout") != nullptr; }));  // above the painted main window
   }

@@ -1,9 +1,18 @@
+#include <cstring>
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTemporaryDir>
+
+#include "qt/tecleo.h"
 
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (argc > 1 && std::strcmp(argv[1], "--teclear") == 0) return calvento::teclear(argc, argv);
+  // what the user has of his own stays out of the tests
+  const QTemporaryDir casa;
+  for (const char* carpeta : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
+    qputenv(carpeta, casa.filePath(QLatin1String(carpeta)).toLocal8Bit());
   testing::InitGoogleTest(&argc, argv);
   QApplication aplicacion(argc, argv);
   return RUN_ALL_TESTS();

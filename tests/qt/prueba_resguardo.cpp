@@ -1,0 +1,229 @@
+// What was typed is there again: after a killed program, a window that was left, a full disk.
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <map>
+#include <random>
+
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QProcess>
+#include <QTextStream>
+
+#include "apoyo/carpeta_prueba.h"
+#include "apoyo/disco_lleno.h"
+#include "qt/cadena.h"
+#include "qt/escritorio.h"
+#include "qt/tecleo.h"
+
+namespace calvento {
+namespace {
+
+struct Campo {
+  const char *ventana, *nombre;
+};
+constexpr std::array campos = {Campo{"Form10", "Text5"}, Campo{"Form10", "Text8"}, Campo{"Form10", "Text26"},
+                               Campo{"Form2", "Text6"}, Campo{"Form2", "Text9"}};  // no project keeps the last one
+
+qint64 ahora() {
+  using namespace std::chrono;
+  return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+/// The user's folder, before the program looks for it.
+struct Casa {
+  Casa() { qputenv("XDG_DATA_HOME", carpeta.en("datos").c_str()); }
+  CarpetaPrueba carpeta;
+};
+
+class Resguardada : protected Casa, public EnElEscritorio {
+ protected:
+  void SetUp() override {
+    EnElEscritorio::SetUp();
+    quitarAcercaDe();
+  }
+  void abrirRapida() {
+    elegir("frmMain", "mnrapida");
+    QTest::qWait(20);
+  }
+  void escribir(const char* nombre, const char* texto) {
+    campo("Form10", nombre)->setFocus();
+    campo("Form10", nombre)->selectAll();
+    QTest::keyClicks(campo("Form10", nombre), QLatin1String(texto));
+  }
+  std::string texto(const char* nombre) { return deQt(campo("Form10", nombre)->text()); }
+  std::string nota() { return deQt(vista("Form10")->findChild<QLabel*>("sbStatusBar_nota")->text()); }
+  QList<QAction*> entradas(const char* menu) {
+    for (QMenu* m : vista("Form10")->findChildren<QMenu*>())
+      if (m->title() == QLatin1String(menu)) {
+        emit m->aboutToShow();
+        return m->actions();
+      }
+    return {};
+  }
+  void tecla(Qt::Key cual) {
+    QTest::keyClick(campo("Form10", "Text5"), cual, Qt::ControlModifier);
+    QTest::qWait(10);
+  }
+  bool conMarca() {
+    QTest::qWait(10);
+    return programa.sistema.marco("Form10")->isWindowModified();
+  }
+};
+
+TEST_F(Resguardada, UnProgramaMatadoPierdeUnSegundoALoMas) {
+  const int muertes =
+      qEnvironmentVariableIntValue("CALVENTO_MUERTES") > 0 ? qEnvironmentVariableIntValue("CALVENTO_MUERTES") : 2;
+  std::mt19937 azar(static_cast<unsigned>(ahora()));
+  for (int i = 0; i < muertes; ++i) {
+    qputenv("XDG_DATA_HOME", carpeta.en("datos" + std::to_string(i)).c_str());
+    QProcess otro;
+    otro.start(QCoreApplication::applicationFilePath(), {"--teclear"});
+    ASSERT_TRUE(otro.waitForReadyRead(20000));
+    const int vida = std::uniform_int_distribution(1200, 4000)(azar);
+    QTest::qWait(vida);
+    otro.kill();
+    const qint64 muerte = ahora();
+    otro.waitForFinished();
+    std::map<int, int> guardado;  // the last number in each field a second before the end, and half one for the disk
+    for (const QString& renglon : QString::fromUtf8(otro.readAllStandardOutput()).split(u'\n')) {
+      const QStringList p = renglon.split(u' ');
+      if (p.size() == 3 && p[0].toLongLong() < muerte - 1500) guardado[p[1].toInt()] = p[2].toInt();
+    }
+    SCOPED_TRACE("killed after " + std::to_string(vida) + " ms");
+    DialogosGuion cajas;
+    Programa segundo(cajas);
+    segundo.aplicacion.mostrar("frmMain");
+    segundo.aplicacion.mostrar("Form10");
+    segundo.aplicacion.mostrar("Form2");
+    QTest::qWait(20);
+    const auto en = [&](const Campo& c) {
+      return segundo.sistema.vista(c.ventana)->findChild<QLineEdit*>(QLatin1String(c.nombre))->text().toInt();
+    };
+    const auto* rapida = segundo.sistema.vista("Form10");
+    if (!guardado.empty()) {
+      EXPECT_TRUE(rapida->findChild<QLabel*>("sbStatusBar_nota")->text().startsWith("Hay datos sin guardar de hoy "));
+    }
+    for (QMenu* m : rapida->findChildren<QMenu*>())
+      if (m->title() == "&Recuperar") {
+        emit m->aboutToShow();
+        m->actions()[0]->trigger();
+      }
+    for (const auto& [cual, numero] : guardado)
+      EXPECT_GE(en(campos[static_cast<std::size_t>(cual)]), numero) << campos[static_cast<std::size_t>(cual)].nombre;
+  }
+}
+
+TEST_F(Resguardada, LoQueSeDejaSinGuardarSeRecupera) {
+  abrirRapida();
+  escribir("Text5", "3.75");
+  escribir("Text1", "1850");
+  elegir("Form10", "mncerrar");
+  QTest::qWait(10);
+  abrirRapida();
+  EXPECT_EQ(texto("Text5"), "");
+  EXPECT_EQ(nota(), "") << "the end was orderly";
+  escribir("Text5", "4");
+  const QList<QAction*> estados = entradas("&Recuperar");
+  ASSERT_EQ(estados.size(), 1);
+  EXPECT_TRUE(estados[0]->text().startsWith("Sin nombre, hoy ")) << deQt(estados[0]->text());
+  EXPECT_TRUE(estados[0]->text().endsWith(", Q = 3.75 m³/s, elev. 1850 m")) << deQt(estados[0]->text());
+  estados[0]->trigger();
+  EXPECT_EQ(texto("Text5") + " " + texto("Text1"), "3.75 1850");
+  EXPECT_TRUE(conMarca());
+  tecla(Qt::Key_Z);
+  EXPECT_EQ(texto("Text5") + " " + texto("Text1"), "4 ");
+  dialogos.guarda(carpeta.en("cuatro.cvr"));
+  elegir("Form10", "mnguardar");
+  EXPECT_FALSE(conMarca());
+  EXPECT_EQ(entradas("&Recuperar").size(), 1) << "what was saved is not offered";
+  EXPECT_TRUE(entradas("Re&cientes")[0]->text().startsWith("&1 cuatro.cvr"));
+  QFile::remove(aQt(carpeta.en("cuatro.cvr")));
+  EXPECT_FALSE(entradas("Re&cientes")[0]->isEnabled());
+}
+
+TEST_F(Resguardada, CtrlZTraeLoQueHabiaAntesDeNuevoYDeAbrir) {
+  const std::string ejemplo = carpeta.escribir("uno.cvr", "");
+  std::filesystem::copy_file(RAIZ_PROYECTO "/ejemplos/01-rapida-un-tramo.cvr", ejemplo,
+                             std::filesystem::copy_options::overwrite_existing);
+  abrirRapida();
+  ASSERT_TRUE(programa.aplicacion.abrirProyecto(ejemplo));
+  EXPECT_FALSE(conMarca());
+  escribir("Text5", "2.75");
+  EXPECT_TRUE(conMarca());
+  escribir("Text5", "2.5");
+  EXPECT_FALSE(conMarca()) << "undone by hand";
+  escribir("Text5", "2.75");
+  elegir("Form10", "mnnuevo");
+  EXPECT_FALSE(conMarca());
+  escribir("Text8", "9");
+  tecla(Qt::Key_Z);
+  EXPECT_EQ(texto("Text8"), "9") << "another field can still undo by itself";
+  campo("Form10", "Text8")->undo();
+  tecla(Qt::Key_Z);
+  EXPECT_EQ(texto("Text5"), "2.75");
+  EXPECT_EQ(programa.sistema.vista("Form10")->windowTitle(), "Rápida - uno.cvr[*]");
+  EXPECT_TRUE(conMarca());
+  tecla(Qt::Key_Y);
+  EXPECT_EQ(texto("Text5"), "");
+  tecla(Qt::Key_Z);
+  elegir("Form10", "mnguardar");  // into its own file: no box
+  EXPECT_TRUE(carpeta.leer("uno.cvr").starts_with("2.75\r\n"));
+}
+
+TEST_F(Resguardada, UnaCopiaQueNoSePuedeEscribirSeDiceUnaVezYNoEstorba) {
+  abrirRapida();
+  {
+#ifdef _WIN32
+    QFile estorbo(aQt(carpeta.en("datos")));
+    estorbo.open(QIODevice::WriteOnly);
+#else
+    const DiscoLleno lleno(8);
+#endif
+    escribir("Text5", "1.5");
+    QTest::qWait(1100);
+    EXPECT_TRUE(nota().starts_with("Sin copia de seguridad: ")) << nota();
+    vista("Form10")->findChild<QLabel*>("sbStatusBar_nota")->clear();
+    escribir("Text8", "0.015");
+    QTest::qWait(1100);
+    EXPECT_EQ(nota(), "");
+  }
+  escribir("Text5", "1.6");
+  elegir("Form10", "mnnuevo");
+  EXPECT_EQ(entradas("&Recuperar").size(), 1);
+  // a folder that cannot be made
+  QDir(aQt(carpeta.en("datos"))).removeRecursively();
+  carpeta.escribir("datos", "");
+  escribir("Text5", "1.7");
+  elegir("Form10", "mnnuevo");
+  QTest::qWait(10);
+  EXPECT_TRUE(nota().starts_with("Sin copia de seguridad: ")) << nota();
+  tecla(Qt::Key_Z);
+  EXPECT_EQ(texto("Text5"), "1.7");
+}
+
+}  // namespace
+
+int teclear(int argc, char** argv) {
+  QApplication aplicacion(argc, argv);
+  DialogosGuion dialogos;
+  Programa programa(dialogos);
+  for (const char* ventana : {"frmMain", "Form10", "Form2"}) programa.aplicacion.mostrar(ventana);
+  std::mt19937 azar(static_cast<unsigned>(ahora()));
+  for (int numero = 1; numero < 100000; ++numero) {
+    const auto cual = static_cast<std::size_t>(azar() % campos.size());
+    auto* linea =
+        programa.sistema.vista(campos[cual].ventana)->findChild<QLineEdit*>(QLatin1String(campos[cual].nombre));
+    linea->selectAll();
+    QTest::keyClicks(linea, QString::number(numero));
+    std::printf("%lld %d %d\n", static_cast<long long>(ahora()), static_cast<int>(cual), numero);
+    std::fflush(stdout);
+    QTest::qWait(static_cast<int>(azar() % 60));
+  }
+  return 0;
+}
+
+}  // namespace calvento
