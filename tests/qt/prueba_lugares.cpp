@@ -17,6 +17,7 @@ class Lugares : public EnElEscritorio {
 
 TEST_F(Lugares, UnaVentanaVuelveADondeSeDejo) {
   quitarAcercaDe();
+  vista("frmMain")->resize(1200, 900);
   alAbrir("Form14");
   QWidget* marco = programa.sistema.marco("Form14");
   const QRect dejada(QPoint(11, 7), marco->size() + QSize(30, 20));
@@ -27,6 +28,8 @@ TEST_F(Lugares, UnaVentanaVuelveADondeSeDejo) {
   DialogosGuion cajas;
   Programa otra(cajas);
   otra.aplicacion.mostrar("frmMain");
+  otra.sistema.vista("frmMain")->resize(1200, 900);
+  QTest::qWait(10);
   otra.aplicacion.mostrar("Form14");
   EXPECT_EQ(otra.sistema.marco("Form14")->geometry(), dejada);
 }

@@ -105,7 +105,8 @@ TEST_F(Resguardada, UnProgramaMatadoPierdeUnSegundoALoMas) {
     };
     const auto* rapida = segundo.sistema.vista("Form10");
     if (!guardado.empty()) {
-      EXPECT_TRUE(rapida->findChild<QLabel*>("sbStatusBar_nota")->text().startsWith("Hay datos sin guardar de hoy "));
+      const auto* nota = rapida->findChild<QLabel*>("sbStatusBar_nota");
+      EXPECT_TRUE(QTest::qWaitFor([&] { return nota->text().startsWith("Hay datos sin guardar de hoy "); }, 2000));
     }
     for (QMenu* m : rapida->findChildren<QMenu*>())
       if (m->title() == "&Recuperar") {
