@@ -66,6 +66,9 @@ const std::vector<Aplicacion::Entrada>& Aplicacion::catalogo() {
       {"MemoriaForm10", [](Aplicacion& a) { return a.memoriaDe("Form10"); }},
       {"MemoriaForm1", [](Aplicacion& a) { return a.memoriaDe("Form1"); }},
       {"MemoriaForm16", [](Aplicacion& a) { return a.memoriaDe("Form16"); }},
+      {"EstudioForm10", [](Aplicacion& a) { return a.estudioDe("Form10"); }},
+      {"EstudioForm1", [](Aplicacion& a) { return a.estudioDe("Form1"); }},
+      {"EstudioForm16", [](Aplicacion& a) { return a.estudioDe("Form16"); }},
       {"FormManual", [](Aplicacion&) { return std::make_unique<FormManual>(); }},
   };
   return ventanas;
@@ -89,6 +92,21 @@ void Aplicacion::arrancar() {
 std::unique_ptr<Ventana> Aplicacion::memoriaDe(std::string_view datos) {
   const auto it = disenos_.find(datos);
   return std::make_unique<FormMemoria>("Memoria" + std::string(datos), it == disenos_.end() ? nullptr : it->second);
+}
+
+std::unique_ptr<Ventana> Aplicacion::estudioDe(std::string_view datos) {
+  const Ficha& ficha = *fichaDe(datos);
+  auto estudio = std::make_unique<FormEstudio>("Estudio" + std::string(datos), ficha);
+  estudio->Visor1.base = [this, &ficha, datos]() -> std::optional<Diseno> {
+    const auto* ventana = dynamic_cast<const VentanaDatos*>(cargada(datos));
+    if (ventana == nullptr) return std::nullopt;
+    return Diseno(ficha, *ventana, *cargar(ficha.parametros), estado, {});
+  };
+  estudio->Visor1.usar = [this, &ficha, datos](std::span<const Puesto> puestos) {
+    mostrar(datos);
+    usarDiseno(*cargar<VentanaDatos>(datos), *cargar(ficha.parametros), puestos);
+  };
+  return estudio;
 }
 
 /// The checks of the design in the status bar of its window, and in its report where that is open.

@@ -10,6 +10,7 @@
 #include "aplicacion/form_manual.h"
 #include "cad/destinos.h"
 #include "cad/dibujo_dxf.h"
+#include "estudio/form_estudio.h"
 #include "memoria/form_memoria.h"
 #include "modelo/design_state.h"
 #include "plataforma/dialogos.h"
@@ -70,6 +71,7 @@ class Aplicacion : public Navegador {
   static const std::vector<Entrada>& catalogo();
 
   std::unique_ptr<Ventana> memoriaDe(std::string_view datos);
+  std::unique_ptr<Ventana> estudioDe(std::string_view datos);
   Form2& form2();
   Form25& form25();
 

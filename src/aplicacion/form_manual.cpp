@@ -10,8 +10,9 @@ std::string_view capituloDe(std::string_view ventana) {
   static constexpr std::string_view principal = "1. La ventana principal", resultados = "Ventanas de resultados",
                                     secciones = "Secciones transversales",
                                     verificacion = "14. Cuando la verificación no acepta la poza",
-                                    cad = "11. Exportar a un programa de CAD", memoria = "Memoria de cálculo";
-  static constexpr std::array<std::pair<std::string_view, std::string_view>, 32> capitulos = {{
+                                    cad = "11. Exportar a un programa de CAD", memoria = "Memoria de cálculo",
+                                    estudio = "18. El estudio de alternativas";
+  static constexpr std::array<std::pair<std::string_view, std::string_view>, 35> capitulos = {{
       {"frmMain", principal},
       {"frmAbout", principal},
       {"FormManual", "16. Teclas"},
@@ -44,6 +45,9 @@ std::string_view capituloDe(std::string_view ventana) {
       {"MemoriaForm10", memoria},
       {"MemoriaForm1", memoria},
       {"MemoriaForm16", memoria},
+      {"EstudioForm10", estudio},
+      {"EstudioForm1", estudio},
+      {"EstudioForm16", estudio},
   }};
   const auto* it = std::find_if(capitulos.begin(), capitulos.end(), [&](const auto& c) { return c.first == ventana; });
   return it == capitulos.end() ? principal : it->second;

@@ -22,6 +22,7 @@ VentanaEstructura::VentanaEstructura(const FormatoProyecto& formato, DesignState
   unirArchivo();
   Command3.Click = [this] { Command3_Click(); };
   mnmemoria.Click = [this] { navegador_.mostrar("Memoria" + nombre()); };
+  mnestudio.Click = [this] { navegador_.mostrar("Estudio" + nombre()); };
   estado_.esNuevo = true;
 }
 

@@ -60,6 +60,7 @@ class VentanaEstructura : public VentanaDatos {
   Menu mntanque{*this, "mntanque"};
   Menu mnmemoria{*this, "mnmemoria"};  ///< the design report
   Menu mnparam{*this, "mnparam"};
+  Menu mnestudio{*this, "mnestudio"};  ///< alternatives beside each other
   Toolbar Toolbar1{*this, "Toolbar1", {"nuevo", "abrir", "guardar", "Copiar", "imprimir"}};
 
   /// Reads the fields and calculates; an arithmetic failure is told and ends it where it stood.

@@ -21,7 +21,7 @@ QAction* botonDeBarra(QToolBar& barra, QWidget& dueno, const QIcon& icono, const
   return a;
 }
 
-Busqueda::Busqueda(QToolBar& barra, QWidget& dueno, const QString& nombreAccesible, Buscar buscar)
+BarraBusqueda::BarraBusqueda(QToolBar& barra, QWidget& dueno, const QString& nombreAccesible, Buscar buscar)
     : QObject(&dueno), buscar_(std::move(buscar)), campo_(new QLineEdit(&barra)), aviso_(new QLabel(&barra)) {
   campo_->setPlaceholderText(QStringLiteral("Buscar"));
   campo_->setAccessibleName(nombreAccesible);
@@ -45,7 +45,7 @@ Busqueda::Busqueda(QToolBar& barra, QWidget& dueno, const QString& nombreAccesib
   });
 }
 
-void Busqueda::correr(bool haciaAtras) {
+void BarraBusqueda::correr(bool haciaAtras) {
   const bool esta = buscar_(campo_->text(), haciaAtras);
   aviso_->setText(esta || campo_->text().isEmpty() ? QString() : QStringLiteral(" No está"));
 }

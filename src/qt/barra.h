@@ -22,11 +22,11 @@ QAction* botonDeBarra(QToolBar& barra, QWidget& dueno, const QIcon& icono, const
 
 /// The search of a window that shows a long text, at the end of its bar: a field (Ctrl+F), the next and the former
 /// place (F3, Shift+F3), and a note where there is none.
-class Busqueda : public QObject {
+class BarraBusqueda : public QObject {
  public:
   /// Goes to the next place of the text; false where it stands nowhere.
   using Buscar = std::function<bool(const QString& texto, bool haciaAtras)>;
-  Busqueda(QToolBar& barra, QWidget& dueno, const QString& nombreAccesible, Buscar buscar);
+  BarraBusqueda(QToolBar& barra, QWidget& dueno, const QString& nombreAccesible, Buscar buscar);
 
  private:
   void correr(bool haciaAtras);

@@ -25,6 +25,7 @@
 
 #include "plataforma/ventana_datos.h"
 #include "qt/cadena.h"
+#include "qt/vista_estudio.h"
 #include "qt/vista_lienzo.h"
 #include "qt/vista_manual.h"
 #include "qt/vista_memoria.h"
@@ -70,7 +71,8 @@ bool tienePartesPropias(const QWidget* w) {
          qobject_cast<const QAbstractScrollArea*>(w) || qobject_cast<const QComboBox*>(w) ||
          qobject_cast<const QLineEdit*>(w) || qobject_cast<const QAbstractSpinBox*>(w) ||
          qobject_cast<const QMenu*>(w) || qobject_cast<const QMenuBar*>(w) || qobject_cast<const QStatusBar*>(w) ||
-         dynamic_cast<const VistaMemoria*>(w) != nullptr || dynamic_cast<const VistaManual*>(w) != nullptr;
+         dynamic_cast<const VistaMemoria*>(w) != nullptr || dynamic_cast<const VistaManual*>(w) != nullptr ||
+         dynamic_cast<const VistaEstudio*>(w) != nullptr;
 }
 
 /// In a data window with the place of the mark of unsaved changes. A caption that has such a place itself is shown with

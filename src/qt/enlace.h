@@ -12,6 +12,7 @@
 #include <QPointer>
 
 #include "aplicacion/form_manual.h"
+#include "estudio/form_estudio.h"
 #include "memoria/form_memoria.h"
 #include "plataforma/control.h"
 #include "plataforma/lienzo.h"
@@ -79,6 +80,7 @@ class Enlace : public QObject {
   Refresco unirLienzo(PictureBox& caja);
   Refresco unirMemoria(VisorMemoria& visor);
   Refresco unirManual(VisorManual& visor);
+  Refresco unirEstudio(VisorEstudio& visor);
   Refresco unirGrupo(Control& grupo);
 
   /// The properties that all controls have, for a widget.

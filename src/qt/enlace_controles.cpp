@@ -26,6 +26,7 @@
 #include "qt/enlace.h"
 #include "qt/numero_tecleado.h"
 #include "qt/resultado_accesible.h"
+#include "qt/vista_estudio.h"
 #include "qt/vista_lienzo.h"
 #include "qt/vista_manual.h"
 #include "qt/vista_memoria.h"
@@ -110,6 +111,7 @@ Enlace::Refresco Enlace::unir(Control& control) {
   if (auto* c = dynamic_cast<PictureBox*>(&control)) return unirLienzo(*c);
   if (auto* c = dynamic_cast<VisorMemoria*>(&control)) return unirMemoria(*c);
   if (auto* c = dynamic_cast<VisorManual*>(&control)) return unirManual(*c);
+  if (auto* c = dynamic_cast<VisorEstudio*>(&control)) return unirEstudio(*c);
   return unirGrupo(control);  // frames and decorations
 }
 
@@ -374,6 +376,13 @@ Enlace::Refresco Enlace::unirMemoria(VisorMemoria& visor) {
     comun();
     vista->refrescar();
   };
+}
+
+Enlace::Refresco Enlace::unirEstudio(VisorEstudio& visor) {
+  auto* vista = dynamic_cast<VistaEstudio*>(widgetDe<QWidget>(visor));
+  if (vista == nullptr) return {};
+  vista->mostrar(visor);
+  return comunes(visor, *vista);
 }
 
 Enlace::Refresco Enlace::unirManual(VisorManual& visor) {

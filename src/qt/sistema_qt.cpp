@@ -89,7 +89,7 @@ QWidget* SistemaQt::marco(std::string_view nombre) const {
 SistemaQt::Abierta& SistemaQt::crear(Ventana& ventana) {
   const VentanaUi* diseno = ventanaUi(ventana.nombre());
   if (diseno == nullptr) throw std::runtime_error(ventana.nombre() + ": ventana sin diseño");
-  QWidget* dueno = diseno->puesto == Puesto::suelta ? principal_.data() : nullptr;
+  QWidget* dueno = diseno->puesto == Acomodo::suelta ? principal_.data() : nullptr;
   auto vista = std::make_unique<QMainWindow>(dueno);
   diseno->construir(*vista);
   auto* enlace = new Enlace(ventana, *vista, [this](const std::string& texto) { dialogos_.fallo(texto); });
@@ -97,13 +97,13 @@ SistemaQt::Abierta& SistemaQt::crear(Ventana& ventana) {
   QMainWindow& v = *vista.release();
   QWidget* marco = &v;
   switch (diseno->puesto) {
-    case Puesto::principal:
+    case Acomodo::principal:
       colocarPrincipal(v);
       break;
-    case Puesto::hija:
+    case Acomodo::hija:
       marco = colocarHija(v, ventana.nombre());
       break;
-    case Puesto::suelta:
+    case Acomodo::suelta:
       colocarSuelta(v);
       break;
   }
@@ -161,7 +161,7 @@ void SistemaQt::colocarPrincipal(QMainWindow& vista) {
 /// For the next time it opens, and the next run. A child that nobody moved keeps coming up in the middle.
 void SistemaQt::guardarLugarDe(const Abierta& abierta) const {
   const QWidget* marco = abierta.marco;
-  if (marco == nullptr || ventanaUi(abierta.ventana->nombre())->puesto == Puesto::suelta) return;
+  if (marco == nullptr || ventanaUi(abierta.ventana->nombre())->puesto == Acomodo::suelta) return;
   if (marco == principal_) {
     const bool entera = marco->isMaximized();
     guardarLugar("frmMain", *marco, {entera ? QRect() : QRect(marco->pos(), marco->size()), entera});

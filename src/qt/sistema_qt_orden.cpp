@@ -35,7 +35,7 @@ void enfocarPrimero(QMainWindow& vista) {
 
 void SistemaQt::presentar(Ventana& ventana) {
   const VentanaUi* diseno = ventanaUi(ventana.nombre());
-  if (principal_ && !pintada_ && diseno != nullptr && diseno->puesto == Puesto::suelta) {
+  if (principal_ && !pintada_ && diseno != nullptr && diseno->puesto == Acomodo::suelta) {
     enEspera_.push_back(&ventana);
     return;
   }

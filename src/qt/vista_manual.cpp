@@ -66,8 +66,8 @@ VistaManual::VistaManual(QWidget* padre)
   boton(icono("zoom_mas"), "Acercar", QKeySequence::ZoomIn, &VistaManual::acercar);
   boton(icono("ver_todo"), "Tamaño normal", QKeySequence(Qt::CTRL | Qt::Key_0), &VistaManual::tamanoNormal);
   barra->addSeparator();
-  new Busqueda(*barra, *this, QStringLiteral("Buscar en el manual"),
-               [this](const QString& texto, bool haciaAtras) { return buscar(texto, haciaAtras); });
+  new BarraBusqueda(*barra, *this, QStringLiteral("Buscar en el manual"),
+                    [this](const QString& texto, bool haciaAtras) { return buscar(texto, haciaAtras); });
   auto* todo = new QVBoxLayout(this);
   todo->setContentsMargins(0, 0, 0, 0);
   todo->setSpacing(0);

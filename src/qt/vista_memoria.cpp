@@ -66,8 +66,8 @@ VistaMemoria::VistaMemoria(QWidget* padre) : QWidget(padre) {
   boton("ver_todo", QStringLiteral("Ancho de página"), QKeySequence(Qt::CTRL | Qt::Key_0),
         [this] { paginas_->alAncho(); });
   barra->addSeparator();
-  new Busqueda(*barra, *this, QStringLiteral("Buscar en la memoria"),
-               [this](const QString& texto, bool haciaAtras) { return buscar(texto, haciaAtras); });
+  new BarraBusqueda(*barra, *this, QStringLiteral("Buscar en la memoria"),
+                    [this](const QString& texto, bool haciaAtras) { return buscar(texto, haciaAtras); });
 
   capitulos_ = new QListWidget(this);
   capitulos_->setAccessibleName(QStringLiteral("Capítulos"));

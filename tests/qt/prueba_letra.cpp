@@ -12,7 +12,6 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QTest>
-#include <QToolButton>
 
 #include "apoyo/dialogos_guion.h"
 #include "plataforma/ventana_datos.h"
@@ -34,10 +33,10 @@ class Letra : public testing::TestWithParam<int> {
 
   /// The texts of the window itself: the main one also holds the others.
   static bool seMide(const QWidget* w, const QMainWindow& vista) {
-    const auto* herramienta = qobject_cast<const QToolButton*>(w);
+    const auto* boton = qobject_cast<const QAbstractButton*>(w);
     const bool conTexto = qobject_cast<const QLabel*>(w) || qobject_cast<const QLineEdit*>(w) ||
-                          qobject_cast<const QGroupBox*>(w) || qobject_cast<const QAbstractButton*>(w);
-    if (!conTexto || (herramienta != nullptr && herramienta->text().isEmpty())) return false;
+                          qobject_cast<const QGroupBox*>(w) || boton != nullptr;
+    if (!conTexto || (boton != nullptr && boton->text().isEmpty())) return false;
     const QWidget* suya = w;
     while (suya != nullptr && qobject_cast<const QMainWindow*>(suya) == nullptr) suya = suya->parentWidget();
     return suya == &vista && w->isVisibleTo(&vista) && !w->objectName().startsWith("qt_");
@@ -67,7 +66,7 @@ class Letra : public testing::TestWithParam<int> {
     for (const QWidget* w : vista.findChildren<QWidget*>()) {
       if (!seMide(w, vista)) continue;
       const QSize falta = pide(*w);
-      const std::string quien = deQt(vista.objectName() + "." + w->objectName());
+      const std::string quien = deQt(vista.objectName() + "." + w->objectName() + w->property("text").toString());
       EXPECT_TRUE(falta.width() <= w->width() && falta.height() <= w->height())
           << quien << ": " << w->width() << "x" << w->height() << ", needs " << falta.width() << "x" << falta.height();
       EXPECT_TRUE(seVeEntero(*w, vista)) << quien;

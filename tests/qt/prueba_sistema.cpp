@@ -27,7 +27,7 @@ TEST_F(EnElEscritorio, EscCierraTodoMenosLosDisenos) {
   dialogos.tolera(DialogosGuion::Clase::fallo);  // results of the others with the record of the chute
   int cerradas = 0;
   for (const VentanaUi& diseno : ventanasUi()) {
-    if (diseno.puesto == Puesto::principal) continue;
+    if (diseno.puesto == Acomodo::principal) continue;
     const std::string nombre(diseno.nombre);
     programa.aplicacion.mostrar(nombre);
     QTest::qWait(5);
