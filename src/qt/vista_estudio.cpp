@@ -6,7 +6,6 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QElapsedTimer>
-#include <QFileDialog>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -29,6 +28,7 @@
 #include "qt/curva_estudio.h"
 #include "qt/entrada_estudio.h"
 #include "qt/modelo_estudio.h"
+#include "qt/pedir_archivo.h"
 
 namespace calvento {
 
@@ -65,11 +65,12 @@ VistaEstudio::VistaEstudio(QWidget* padre) : QWidget(padre), modelo_(new ModeloE
 
 VistaEstudio::~VistaEstudio() { modelo_->mostrar(nullptr); }
 
+// Alt with D, U and V opens the menus of the main window
 QWidget* VistaEstudio::hacerEntradas() {
   auto* arriba = new QWidget(this);
   auto* malla = new QGridLayout(arriba);
   malla->setContentsMargins(0, 0, 0, 0);
-  primera_ = std::make_unique<EntradaEstudio>(*arriba, *malla, 0, QStringLiteral("&Varía:"), false);
+  primera_ = std::make_unique<EntradaEstudio>(*arriba, *malla, 0, QStringLiteral("Va&ría:"), false);
   segunda_ = std::make_unique<EntradaEstudio>(*arriba, *malla, 1, QStringLiteral("y &también:"), true);
   primera_->tecleado = segunda_->tecleado = [this](const Entrada& e) {
     const auto visor = visor_.lock();
@@ -78,7 +79,7 @@ QWidget* VistaEstudio::hacerEntradas() {
   };
   auto* derecha = new QVBoxLayout;
   calcular_ = boton(*arriba, QStringLiteral("C&alcular"), *derecha);
-  detener_ = boton(*arriba, QStringLiteral("&Detener"), *derecha);
+  detener_ = boton(*arriba, QStringLiteral("Dete&ner"), *derecha);
   detener_->setEnabled(false);
   malla->addLayout(derecha, 0, 8, 2, 1);
   progreso_ = new QProgressBar(arriba);
@@ -106,7 +107,7 @@ QWidget* VistaEstudio::hacerTabla() {
   tabla_->setSortingEnabled(true);
   columna->addWidget(tabla_, 1);
   auto* botones = new QHBoxLayout;
-  usar_ = boton(*lado, QStringLiteral("&Usar este diseño"), *botones);
+  usar_ = boton(*lado, QStringLiteral("Usar &este diseño"), *botones);
   botones->addStretch();
   guardar_ = boton(*lado, QStringLiteral("&Guardar tabla..."), *botones);
   columna->addLayout(botones);
@@ -125,7 +126,7 @@ QWidget* VistaEstudio::hacerCurva() {
   auto* columna = new QVBoxLayout(lado);
   columna->setContentsMargins(0, 0, 0, 0);
   auto* arriba = new QHBoxLayout;
-  auto* rotulo = new QLabel(QStringLiteral("&Resultado:"), lado);
+  auto* rotulo = new QLabel(QStringLiteral("Resu&ltado:"), lado);
   resultado_ = new QComboBox(lado);
   resultado_->setAccessibleName(QStringLiteral("Resultado de la curva y de la búsqueda"));
   resultado_->setMinimumContentsLength(8);
@@ -293,13 +294,9 @@ void VistaEstudio::pedirTabla() {
     if (caja.clickedButton() == nada || caja.clickedButton() == nullptr) return;
     a.setValue(clave, caja.clickedButton() == coma);
   }
-  QFileDialog dialogo(this, QStringLiteral("Guardar la tabla del estudio"));
-  dialogo.setAcceptMode(QFileDialog::AcceptSave);
-  dialogo.setNameFilter(QStringLiteral("Tabla CSV (*.csv)"));
-  dialogo.setDefaultSuffix(QStringLiteral("csv"));
-  dialogo.selectFile(QStringLiteral("estudio"));
-  if (dialogo.exec() == QDialog::Accepted && !dialogo.selectedFiles().isEmpty())
-    guardarTabla(dialogo.selectedFiles().constFirst(), a.value(clave).toBool());
+  const QString archivo = pedirArchivo(*this, QStringLiteral("Guardar la tabla del estudio"),
+                                       {QStringLiteral("Tabla CSV (*.csv)")}, QStringLiteral("estudio"));
+  if (!archivo.isEmpty()) guardarTabla(archivo, a.value(clave).toBool());
 }
 
 bool VistaEstudio::guardarTabla(const QString& archivo, bool coma) {
@@ -315,17 +312,14 @@ bool VistaEstudio::guardarTabla(const QString& archivo, bool coma) {
 }
 
 void VistaEstudio::pedirCurva() {
-  QFileDialog dialogo(this, QStringLiteral("Guardar la curva"));
-  dialogo.setAcceptMode(QFileDialog::AcceptSave);
-  dialogo.setNameFilters({QStringLiteral("SVG (*.svg)"), QStringLiteral("PDF (*.pdf)"), QStringLiteral("PNG (*.png)")});
-  dialogo.setDefaultSuffix(QStringLiteral("svg"));
-  connect(&dialogo, &QFileDialog::filterSelected, &dialogo,
-          [&](const QString& f) { dialogo.setDefaultSuffix(f.left(3).toLower()); });
-  dialogo.selectFile(QStringLiteral("curva"));
-  if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return;
+  const QString archivo =
+      pedirArchivo(*this, QStringLiteral("Guardar la curva"),
+                   {QStringLiteral("SVG (*.svg)"), QStringLiteral("PDF (*.pdf)"), QStringLiteral("PNG (*.png)")},
+                   QStringLiteral("curva"));
+  if (archivo.isEmpty()) return;
   try {
-    curva_->guardar(deQt(dialogo.selectedFiles().constFirst()));
-    decir(QStringLiteral("Guardado: ") + dialogo.selectedFiles().constFirst());
+    curva_->guardar(deQt(archivo));
+    decir(QStringLiteral("Guardado: ") + archivo);
   } catch (const std::exception& fallo) {
     decir(aQt(fallo.what()), true);
   }

@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -31,6 +30,7 @@
 #include "qt/figura_memoria.h"
 #include "qt/maqueta_memoria.h"
 #include "qt/paginas_memoria.h"
+#include "qt/pedir_archivo.h"
 
 namespace calvento {
 
@@ -186,20 +186,11 @@ bool VistaMemoria::buscar(const QString& texto, bool haciaAtras) {
 void VistaMemoria::guardarComo() {
   const auto visor = visor_.lock();
   if (!visor || !documento_) return;
-  const QString pdf = QStringLiteral("PDF (*.pdf)"), html = QStringLiteral("Página HTML (*.html)"),
-                odt = QStringLiteral("Texto de OpenDocument (*.odt)");
-  QFileDialog dialogo(this, QStringLiteral("Guardar la memoria de cálculo"));
-  dialogo.setAcceptMode(QFileDialog::AcceptSave);
-  dialogo.setNameFilters({pdf, html, odt});
-  dialogo.setDefaultSuffix(QStringLiteral("pdf"));
-  connect(&dialogo, &QFileDialog::filterSelected, &dialogo, [&](const QString& f) {
-    dialogo.setDefaultSuffix(f == html  ? QStringLiteral("html")
-                             : f == odt ? QStringLiteral("odt")
-                                        : QStringLiteral("pdf"));
-  });
-  dialogo.selectFile(aQt(visor->sugerido));
-  if (dialogo.exec() == QDialog::Accepted && !dialogo.selectedFiles().isEmpty())
-    guardar(dialogo.selectedFiles().constFirst());
+  const QString archivo = pedirArchivo(*this, QStringLiteral("Guardar la memoria de cálculo"),
+                                       {QStringLiteral("PDF (*.pdf)"), QStringLiteral("Página HTML (*.html)"),
+                                        QStringLiteral("Texto de OpenDocument (*.odt)")},
+                                       aQt(visor->sugerido));
+  if (!archivo.isEmpty()) guardar(archivo);
 }
 
 void VistaMemoria::guardar(const QString& archivo) {
