@@ -111,9 +111,13 @@ std::string frase(const Columna& c, const Entrada& e, const Busqueda& b, const s
   if (!b.soluciones.empty())
     return c.nombre + " = " + textoDe(c, {b.soluciones.front().resultado, {}}) + unidad + " con " +
            con(b.soluciones.front());
-  const std::string no = c.nombre + " no toma el valor " + buscado + unidad + " entre esos límites. ";
-  if (b.cercano.texto.empty()) return no + "Ningún diseño tiene ese resultado";
-  return no + "Lo más cercano es " + textoDe(c, {b.cercano.resultado, {}}) + unidad + ", con " + con(b.cercano);
+  const std::string no = b.detenida ? "La búsqueda de " + c.nombre + " = " + buscado + unidad +
+                                          " se detuvo antes de recorrer esos límites: pruebe con un paso mayor. "
+                                    : c.nombre + " no toma el valor " + buscado + unidad + " entre esos límites. ";
+  if (b.cercano.texto.empty())
+    return no + (b.detenida ? "Ningún diseño recorrido tiene ese resultado" : "Ningún diseño tiene ese resultado");
+  return no + (b.detenida ? "De lo recorrido, lo más cercano es " : "Lo más cercano es ") +
+         textoDe(c, {b.cercano.resultado, {}}) + unidad + ", con " + con(b.cercano);
 }
 
 }  // namespace
@@ -131,7 +135,7 @@ Busqueda buscar(const Diseno& base, const Entrada& entrada, const Serie& serie, 
   Buscador b(base, entrada, columna, meta, sigue);
   b.recorrer(textos);
   if (b.soluciones.empty() && !b.parado()) b.afinar(textos);
-  Busqueda r{std::move(b.soluciones), b.cercano(), {}};
+  Busqueda r{std::move(b.soluciones), b.cercano(), b.parado(), {}};
   r.frase = frase(c, entrada, r, pedido);
   return r;
 }

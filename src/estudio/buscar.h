@@ -21,7 +21,9 @@ struct Busqueda {
   /// Where there is none: the design whose result comes nearest. Without text and result where no design has that
   /// result at all.
   Hallado cercano;
-  /// For the user: the first solution, or that there is none and what is nearest.
+  /// `sigue` stopped it: beyond the designs looked at there may be a solution, or another one.
+  bool detenida = false;
+  /// For the user: the first solution, or that there is none and what is nearest, as far as was looked.
   std::string frase;
 };
 

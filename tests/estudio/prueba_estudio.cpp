@@ -123,8 +123,10 @@ TEST(Busqueda, FindsWhatTheDesignThenHas) {
   EXPECT_NE(no.frase.find("no toma el valor 40"), std::string::npos);
   EXPECT_NE(no.frase.find("cercano"), std::string::npos);
   int veces = 0;
-  buscar(p.base(), b, {"1", "2", "0.1"}, columna("fr1"), "40", [&] { return ++veces < 3; });
+  const Busqueda media = buscar(p.base(), b, {"1", "2", "0.1"}, columna("fr1"), "8.3", [&] { return ++veces < 3; });
   EXPECT_EQ(veces, 3);
+  EXPECT_TRUE(media.detenida && !no.detenida);
+  EXPECT_EQ(media.frase.find("no toma"), std::string::npos) << "a width further on has it";
   for (const char* meta : {"", "abc", "1e999"})
     EXPECT_THROW(buscar(p.base(), b, {"1", "2", "1"}, columna("y1"), meta), FalloEstudio) << meta;
   EXPECT_THROW(buscar(p.base(), b, {"1", "2", "1"}, columna("tiposFactibles"), "1"), FalloEstudio);
