@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <nlohmann/json.hpp>
 
+#include "comun/numeros.h"
 #include "comun/version.h"
 #include "modelo/codificacion.h"
 #include "plataforma/rejilla.h"
@@ -256,6 +257,9 @@ void escribirReportes(EscritorJson& j, const std::vector<ReporteAbierto>& report
   j.cerrarObjeto();
 }
 
+/// The last digits of a power are not the same in every system's mathematical library.
+double redondeado(double x) { return Round(Real(x), 7).valor(); }
+
 void escribirComprobaciones(EscritorJson& j, const Comprobaciones& todas) {
   j.clave("comprobaciones");
   j.abrirLista();
@@ -266,9 +270,9 @@ void escribirComprobaciones(EscritorJson& j, const Comprobaciones& todas) {
     j.clave("estado");
     j.texto(nombreEstado(c.estado));
     j.clave("valor");
-    j.numero(c.valor);
+    j.numero(redondeado(c.valor));
     j.clave("limite");
-    j.numero(c.limite);
+    j.numero(redondeado(c.limite));
     j.clave("unidad");
     j.texto(c.unidad);
     j.clave("detalle");
