@@ -43,6 +43,7 @@ class Vueltas {
   void una() {
     if (quedan_-- <= 0) fallar(Motivo::sinConvergencia);
   }
+  bool agotadas() const { return quedan_ <= 0; }
 
  private:
   int quedan_;

@@ -31,8 +31,8 @@ Cifras cifrasDe(double x, int significativas) {
   const std::string_view s(bufer.data(), static_cast<std::size_t>(r.ptr - bufer.data()));
   const std::size_t e = s.find('e');
   Cifras c;
-  for (const char ch : s.substr(0, e))
-    if (esDigito(ch)) c.digitos += ch;
+  c.digitos = s.substr(0, 1);
+  if (e > 1) c.digitos += s.substr(2, e - 2);
   std::string_view exponente = s.substr(e + 1);
   if (exponente.front() == '+') exponente.remove_prefix(1);
   std::from_chars(exponente.data(), exponente.data() + exponente.size(), c.exponente);

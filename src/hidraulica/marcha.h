@@ -1,7 +1,7 @@
 #pragma once
 
 #include "comun/real.h"
-#include "hidraulica/raiz_cubica.h"
+#include "hidraulica/carriles.h"
 
 namespace calvento {
 
@@ -26,10 +26,13 @@ inline constexpr int pasosPorTramo = 100;
 
 namespace detalle {
 
-/// One Newton round of a station: the corrected depth, and the flow at the depth before it.
+/// One Newton round of a station: the corrected depth, and the flow at the depth before it. N is a number, or several
+/// that go through the same operations at once.
+template <class N>
 struct Vuelta {
-  Real y, v, A, T;
-  Real raizSf;  ///< square root of the friction slope
+  N y, v, A, T;
+  N raizSf;  ///< square root of the friction slope
+  N P, dF;   ///< wetted perimeter and derivative, which tell whether a round is sound
 };
 
 /// The rounds are the bulk of a chute's calculation. Their sums and products are bare numbers: an infinity in them
@@ -37,42 +40,35 @@ struct Vuelta {
 class PasoMarcha {
  public:
   PasoMarcha(const TramoMarcha& t, Real paso)
-      : Q(t.Q.valor()),
-        b(t.b.valor()),
-        z(t.z.valor()),
-        n(t.n.valor()),
-        ds(paso.valor()),
-        W(Sqr(1 + t.z * t.z).valor()) {}
+      : b(t.b.valor()), z(t.z.valor()), n(t.n.valor()), ds(paso.valor()), W(Sqr(1 + t.z * t.z).valor()) {}
 
-  Vuelta corregir(double y, double H) const {
-    const double T = b + 2 * z * y;
-    const double A = comprobado((b + z * y) * y).valor();
-    const double v = (Real(Q) / A).valor();
-    const double P = comprobado(b + 2 * y * W).valor();
-    const Real R = Real(A) / P;
-    if (!(R > 0)) fallar(R < 0 ? Motivo::argumentoNoValido : Motivo::divisionPorCero);
-    const double u = inversaRaizCubica(R.valor());
-    const double u2 = u * u;  // R^(-2/3)
-    const double raizSf = n * v * u2;
-    const double F = v * v / dosG + y + 0.5 * ds * (raizSf * raizSf) - H;
-    const double dF = 1 - cociente(T * v * v, gravedad * A) -
-                      comprobado(0.5 * ds * n * n * (u * u2 * u2 * u2)).valor() *  // R^(-7/3)
-                          (2 * R.valor() * T * v * v / A + cociente(4, 3 * P * P) * v * v * (T * P - 2 * A * W));
-    return {comprobado(y - cociente(F, dF)), v, A, comprobado(T), raizSf};
+  template <class N>
+  Vuelta<N> corregir(N Q, N y, N H) const {
+    const N T = b + 2 * z * y;
+    const N A = comoNumero((b + z * y) * y);
+    const N v = cociente(Q, A);
+    const N P = comoNumero(b + 2.0 * y * W);
+    const N R = positivo(cociente(A, P));
+    const N u = inversaRaizCubica(R);
+    const N u2 = u * u;  // R^(-2/3)
+    const N raizSf = n * v * u2;
+    const N F = v * v / dosG + y + 0.5 * ds * (raizSf * raizSf) - H;
+    const N dF = 1.0 - cociente(T * v * v, gravedad * A) -
+                 comoNumero(0.5 * ds * n * n * (u * u2 * u2 * u2)) *  // R^(-7/3)
+                     (2.0 * R * T * v * v / A + cociente(4, 3.0 * P * P) * v * v * (T * P - 2.0 * A * W));
+    return {comoNumero(y - cociente(F, dF)), v, A, comoNumero(T), raizSf, P, dF};
   }
 
  private:
-  static double cociente(double a, double divisor) { return (Real(a) / comprobado(divisor)).valor(); }
-
-  double Q, b, z, n, ds, W;
+  double b, z, n, ds, W;
 };
 
 }  // namespace detalle
 
 /// Water surface of a reach by the standard step method in energy form, downstream in 100 equal steps from the depth y
 /// at its head. The energy of the first step carries no friction term of the section at the head. Fails for a slope of
-/// 0 and where a step has no depth. It advances by single Newton rounds, so that marches that do not depend on each
-/// other can take turns: a round is a long chain of divisions, and the processor works on several chains at once.
+/// 0 and where a step has no depth. It advances by single Newton rounds, so that several marches can go
+/// side by side.
 class Marcha {
  public:
   Marcha(const TramoMarcha& t, Real y)
@@ -89,11 +85,28 @@ class Marcha {
   /// One Newton round; calls `enEstacion` where it ends a station. False once the last station has ended.
   template <class EnEstacion>
   bool ronda(EnEstacion&& enEstacion) {
+    empezarRonda();
+    return acabarRonda(paso_.corregir(t_.Q.valor(), y_.valor(), H_.valor()), enEstacion);
+  }
+
+  /// Depth at the end of the reach: the iterate before the last correction, as a 4-byte value.
+  Single final() const { return r_; }
+
+ private:
+  template <class EnEstacion>
+  friend class MarchasALaVez;
+
+  void empezarRonda() {
     vueltas_.una();
     r_ = y_;
-    const detalle::Vuelta vuelta = paso_.corregir(y_.valor(), H_.valor());
+  }
+  template <class EnEstacion>
+  bool acabarRonda(const detalle::Vuelta<double>& vuelta, EnEstacion&& enEstacion) {
     y_ = vuelta.y;
-    if (!(Abs(y_ - r_) < 0.00001)) return true;
+    return !(Abs(y_ - r_) < tolerancia) || acabarEstacion(vuelta, enEstacion);
+  }
+  template <class EnEstacion>
+  bool acabarEstacion(const detalle::Vuelta<double>& vuelta, EnEstacion&& enEstacion) {
     const Real v = vuelta.v;
     enEstacion(EstacionMarcha{dz_ / t_.S, dz_, y_, v, vuelta.A, vuelta.T});
     H_ = dz_ + y_ + v * v / dosG - ds_ * cuadrado(vuelta.raizSf) / 2;
@@ -102,10 +115,8 @@ class Marcha {
     return ++estaciones_ < pasosPorTramo;
   }
 
-  /// Depth at the end of the reach: the iterate before the last correction, as a 4-byte value.
-  Single final() const { return r_; }
+  static constexpr double tolerancia = 0.00001;  ///< of two depths that follow each other, m
 
- private:
   TramoMarcha t_;
   Real dz_, ds_;
   detalle::PasoMarcha paso_;

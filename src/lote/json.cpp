@@ -14,6 +14,34 @@
 
 namespace calvento::lote {
 
+namespace {
+
+/// What the bytes of a text ask for.
+constexpr unsigned char especial = 1;  ///< an escape
+constexpr unsigned char ajeno = 2;     ///< a look whether the text is UTF-8
+constexpr auto clases = [] {
+  std::array<unsigned char, 256> c{};
+  for (std::size_t i = 0; i < c.size(); ++i)
+    c[i] = i >= 0x80 ? ajeno : i < 0x20 || i == '"' || i == '\\' || i == 0x7F ? especial : 0;
+  return c;
+}();
+
+/// The library escapes what is below U+0020; a terminal obeys DEL, and U+0080 to U+009F, too.
+std::string sinOrdenes(std::string texto) {
+  for (const char guia : {'\x7F', '\xC2'})
+    for (std::size_t i = texto.find(guia); i != std::string::npos; i = texto.find(guia, i + 1)) {
+      const std::size_t largo = guia == '\x7F' ? 1 : 2;
+      const auto ultimo = static_cast<unsigned char>(texto[i + largo - 1]);
+      if (ultimo >= 0xA0) continue;
+      std::array<char, 8> escape{};
+      std::snprintf(escape.data(), escape.size(), "\\u00%02x", ultimo);
+      texto.replace(i, largo, escape.data());
+    }
+  return texto;
+}
+
+}  // namespace
+
 void EscritorJson::separar() {
   if (!primero_) salida_ += ',';
   primero_ = false;
@@ -34,15 +62,17 @@ void EscritorJson::clave(std::string_view nombre) {
 }
 void EscritorJson::texto(std::string_view valor) {
   separar();
-  const auto sinMas = [](char c) {
-    return static_cast<unsigned char>(c) >= 0x20 && c != '"' && c != '\\' && c != 0x7F;
-  };
-  if (std::all_of(valor.begin(), valor.end(), sinMas) && esUtf8(valor)) {  // nearly all: no need of the library
-    salida_.append(1, '"').append(valor).append(1, '"');
+  unsigned hay = 0;
+  for (const char c : valor) hay |= clases[static_cast<unsigned char>(c)];
+  const bool ascii = (hay & ajeno) == 0;
+  if ((hay & especial) == 0 && (ascii || esUtf8(valor))) {  // nearly all: no need of the library
+    salida_ += '"';
+    ascii ? salida_ += valor : salida_ += sinOrdenes(std::string(valor));
+    salida_ += '"';
     return;
   }
   // file names may be no UTF-8: what is not is replaced, since the line must stay readable
-  salida_ += nlohmann::json(valor).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+  salida_ += sinOrdenes(nlohmann::json(valor).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
 }
 void EscritorJson::logico(bool valor) {
   separar();
@@ -62,21 +92,6 @@ void EscritorJson::escribirNumero(Numero valor) {
 void EscritorJson::numero(int valor) { escribirNumero(valor); }
 void EscritorJson::numero(float valor) { std::isfinite(valor) ? escribirNumero(valor) : nulo(); }
 void EscritorJson::numero(double valor) { std::isfinite(valor) ? escribirNumero(valor) : nulo(); }
-
-std::string EscritorJson::salida() const {
-  std::string linea = salida_;
-  // the library escapes what is below U+0020; a terminal obeys DEL, and U+0080 to U+009F, too
-  for (const char guia : {'\x7F', '\xC2'})
-    for (std::size_t i = linea.find(guia); i != std::string::npos; i = linea.find(guia, i + 1)) {
-      const std::size_t largo = guia == '\x7F' ? 1 : 2;
-      const auto ultimo = static_cast<unsigned char>(linea[i + largo - 1]);
-      if (ultimo >= 0xA0) continue;
-      std::array<char, 8> escape{};
-      std::snprintf(escape.data(), escape.size(), "\\u00%02x", ultimo);
-      linea.replace(i, largo, escape.data());
-    }
-  return linea;
-}
 
 namespace {
 

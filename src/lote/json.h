@@ -13,6 +13,8 @@ namespace calvento::lote {
 /// 24 kB of a chute of three reaches, whose whole run takes 1.5 ms.
 class EscritorJson {
  public:
+  EscritorJson() { salida_.reserve(32768); }
+
   void abrirObjeto() { abrir('{'); }
   void cerrarObjeto() { cerrar('}'); }
   void abrirLista() { abrir('['); }
@@ -27,7 +29,7 @@ class EscritorJson {
   void nulo();
 
   /// The text so far, fit for a terminal.
-  std::string salida() const;
+  const std::string& salida() const { return salida_; }
 
  private:
   void separar();

@@ -8,12 +8,17 @@
 namespace calvento {
 
 void Rejilla::dimensionar(int filas, int columnas) {
-  std::vector<Celda> nuevas(static_cast<std::size_t>(filas) * static_cast<std::size_t>(columnas));
-  for (int f = 0; f < std::min(filas, filas_); ++f)
-    for (int c = 0; c < std::min(columnas, columnas_); ++c)
-      nuevas[static_cast<std::size_t>(f) * static_cast<std::size_t>(columnas) + static_cast<std::size_t>(c)] =
-          std::move(celda(f, c));
-  celdas_ = std::move(nuevas);
+  const auto cuantas = static_cast<std::size_t>(filas) * static_cast<std::size_t>(columnas);
+  if (columnas == columnas_) {  // a report that grows by its rows
+    celdas_.resize(cuantas);
+  } else {
+    std::vector<Celda> nuevas(cuantas);
+    for (int f = 0; f < std::min(filas, filas_); ++f)
+      for (int c = 0; c < std::min(columnas, columnas_); ++c)
+        nuevas[static_cast<std::size_t>(f) * static_cast<std::size_t>(columnas) + static_cast<std::size_t>(c)] =
+            std::move(celda(f, c));
+    celdas_ = std::move(nuevas);
+  }
   anchos_.resize(static_cast<std::size_t>(columnas));
   filas_ = filas;
   columnas_ = columnas;

@@ -1,9 +1,10 @@
 #include "reportes/estabilidad.h"
 
 #include <array>
+#include <span>
 
 #include "comun/numeros.h"
-#include "hidraulica/marcha.h"
+#include "hidraulica/marchas_a_la_vez.h"
 #include "reportes/estaciones.h"
 #include "reportes/tramos_rapida.h"
 
@@ -42,42 +43,65 @@ void prepararTabla(Rejilla& t, const DesignState& e, const std::array<Real, 3>& 
   t.poner(filaInicio, 0, textoEstacion(Round(e.progresivaInicio, 2)));
 }
 
-/// The flow of one discharge down the chute.
+/// The flow of one discharge down the chute, or what stopped it.
 class Ondas {
  public:
-  Ondas(const DesignState& estado, Real Q) : e_(estado), canal_{estado.bRapida, estado.zRapida}, Q_(Q) {
-    y_ = YCRITICO(Q, canal_.b, canal_.z);
-    const Real v = Q / canal_.area(y_);
-    H0_ = e_.sobreelevacion + e_.cotaInicio + y_ + v * v / dosG;
-    for (const TramoRapida& t : tramosRapida(e_)) recorrer(t);
+  Ondas(const DesignState& estado, Real Q) : e_(&estado), canal_{estado.bRapida, estado.zRapida}, camino_{Q, 0, {}} {
+    try {
+      camino_.y = YCRITICO(Q, canal_.b, canal_.z);
+      const Real v = Q / canal_.area(camino_.y);
+      H0_ = estado.sobreelevacion + estado.cotaInicio + camino_.y + v * v / dosG;
+    } catch (const FalloAritmetico& fallo) {
+      camino_.fallo = fallo;
+    }
   }
-  const std::vector<EstacionOndas>& estaciones() const { return estaciones_; }
 
+  Descenso& camino() { return camino_; }
+  void empezarTramo(const TramoRapida& t) { cota_ = t.cotaA; }
+  void anotar(const EstacionMarcha& s) {
+    X_ = X_ + s.dx;
+    cota_ = cota_ - s.dz;
+    const Real E = cota_ + s.y + s.v * s.v / dosG;
+    const NumerosOndas n = numerosOndas(canal_, {s.y, s.v, s.A, s.T, X_, H0_ - E});
+    estaciones_.push_back({X_, n.Nv, n.M});
+  }
+
+  /// Throws what stopped the flow.
+  const std::vector<EstacionOndas>& estaciones() const {
+    if (camino_.fallo) throw FalloAritmetico(*camino_.fallo);
+    return estaciones_;
+  }
   NumerosOndas alFinal() const {
-    const Real A = canal_.area(y_);
-    const Real v = Q_ / A;
-    const Real E = e_.cotaFin + y_ + v * v / dosG;
-    return numerosOndas(canal_, {y_, v, A, canal_.espejo(y_), e_.longRapida, H0_ - E});
+    const Real y = camino_.y;
+    const Real A = canal_.area(y);
+    const Real v = camino_.Q / A;
+    const Real E = e_->cotaFin + y + v * v / dosG;
+    return numerosOndas(canal_, {y, v, A, canal_.espejo(y), e_->longRapida, H0_ - E});
   }
 
  private:
-  void recorrer(const TramoRapida& t) {
-    Real cota = t.cotaA;
-    y_ = marchar({Q_, canal_.b, canal_.z, e_.nRapida, t.S, t.cotaA, t.cotaB, 0.9}, y_, [&](const EstacionMarcha& s) {
-      X_ = X_ + s.dx;
-      cota = cota - s.dz;
-      const Real E = cota + s.y + s.v * s.v / dosG;
-      const NumerosOndas n = numerosOndas(canal_, {s.y, s.v, s.A, s.T, X_, H0_ - E});
-      estaciones_.push_back({X_, n.Nv, n.M});
-    });
-  }
-
-  const DesignState& e_;
+  const DesignState* e_;
   Seccion canal_;
-  Real Q_, H0_, X_ = 0;
-  Single y_;
+  Descenso camino_;
+  Real H0_, X_ = 0, cota_ = 0;
   std::vector<EstacionOndas> estaciones_;
 };
+
+std::vector<Ondas> ondasDe(const DesignState& e, std::span<const Real> caudales) {
+  std::vector<Ondas> todas;
+  for (const Real Q : caudales) todas.emplace_back(e, Q);
+  for (const TramoRapida& t : tramosRapida(e)) {
+    std::vector<Descenso> caminos;
+    for (Ondas& o : todas) {
+      o.empezarTramo(t);
+      caminos.push_back(o.camino());
+    }
+    const TramoMarcha tramo{0, e.bRapida, e.zRapida, e.nRapida, t.S, t.cotaA, t.cotaB, 0.9};
+    marcharALaVez(tramo, caminos, [&](std::size_t i, const EstacionMarcha& s) { todas[i].anotar(s); });
+    for (std::size_t i = 0; i < todas.size(); ++i) todas[i].camino() = caminos[i];
+  }
+  return todas;
+}
 
 }  // namespace
 
@@ -101,7 +125,7 @@ void tablaEstabilidad(Rejilla& t, const DesignState& e) {
   const std::array<Real, 3> caudales = {e.Q, e.Q * 0.5, e.Q * 0.2};
   prepararTabla(t, e, caudales);
   int c = 1;
-  for (const Real Q : caudales) {
+  for (const Ondas& ondas : ondasDe(e, caudales)) {
     int fila = filaInicio;
     const auto anadir = [&](Real estacion, auto Nv, auto M) {
       if (++fila >= t.filas()) t.dimensionar(fila + 1, t.columnas());
@@ -111,7 +135,6 @@ void tablaEstabilidad(Rejilla& t, const DesignState& e) {
       t.poner(fila, c + 1, texto(Round(M, 4)));
       t.poner(fila, c + 2, claseFlujo({Nv, M}));
     };
-    const Ondas ondas(e, Q);
     for (const std::size_t i : estacionesDeTabla(ondas.estaciones().size())) {
       const EstacionOndas& s = ondas.estaciones()[i];
       anadir(Round(e.progresivaInicio + s.X, 2), s.Nv, s.M);

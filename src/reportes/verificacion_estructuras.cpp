@@ -1,11 +1,12 @@
 #include <array>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "caida_vertical/calculo_vertical.h"
 #include "comun/numeros.h"
 #include "estructura/pasos.h"
-#include "hidraulica/marcha.h"
+#include "hidraulica/marchas_a_la_vez.h"
 #include "hidraulica/resalto.h"
 #include "reportes/tramos_rapida.h"
 #include "reportes/verificacion.h"
@@ -44,60 +45,38 @@ std::optional<Real> kTrapezoidal(const DesignState& e) {
   return Round(2.249 * cubo(z) - 3.594 * z * z + 7.007 * z + 5.002, 2);
 }
 
-/// Depths of some discharges on their way down the chute, from the first one on.
-struct Tanda {
-  int primera;
-  std::vector<Real> y;
-};
-
-/// Marches them down all reaches, a Newton round each in turn. A reach that cannot be marched hands on the depth at its
-/// head.
-void marcharPorTurnos(const DesignState& e, Tanda& tanda) {
+/// Marches some discharges down all reaches. A reach that cannot be marched hands on the depth at its head.
+void descender(const DesignState& e, std::span<Descenso> tanda) {
   for (const TramoRapida& t : tramosRapida(e)) {
-    std::vector<std::optional<Marcha>> marchas(tanda.y.size());
-    for (std::size_t i = 0; i < marchas.size(); ++i)
-      pasandoFallos([&] {
-        const Real Q = caudalVerificado(e, tanda.primera + static_cast<int>(i));
-        // each station starts at half the depth of the one before, not at nine tenths as in the profile
-        marchas[i].emplace(
-            TramoMarcha{Q, e.bRapida, e.zRapida, e.nRapida, t.S, t.cotaA, t.cotaB, 0.5, vueltasDeEstacion}, tanda.y[i]);
-      });
-    for (bool sigue = true; sigue;) {
-      sigue = false;
-      for (std::size_t i = 0; i < marchas.size(); ++i) {
-        bool enCamino = false;
-        if (marchas[i])
-          pasandoFallos([&] {
-            enCamino = marchas[i]->ronda([](const EstacionMarcha&) {});
-            if (!enCamino) tanda.y[i] = marchas[i]->final();
-          });
-        if (!enCamino) marchas[i].reset();
-        sigue = sigue || enCamino;
-      }
-    }
+    // each station starts at half the depth of the one before, not at nine tenths as in the profile
+    const TramoMarcha tramo{0, e.bRapida, e.zRapida, e.nRapida, t.S, t.cotaA, t.cotaB, 0.5, vueltasDeEstacion};
+    marcharALaVez(tramo, tanda, [](std::size_t, const EstacionMarcha&) {});
+    for (Descenso& d : tanda) d.fallo.reset();
   }
 }
 
 /// Depths at the end of the chute. A discharge without a critical depth starts from the depth at which the one before
 /// ended, so it has to wait for that one.
 std::vector<Real> tirantesAlFinal(const DesignState& e) {
-  std::vector<Real> finales;
-  Tanda tanda{1, {}};
+  std::vector<Descenso> todos;
+  std::size_t terminados = 0;
   const auto terminar = [&] {
-    marcharPorTurnos(e, tanda);
-    finales.insert(finales.end(), tanda.y.begin(), tanda.y.end());
-    tanda = {tanda.primera + static_cast<int>(tanda.y.size()), {}};
+    descender(e, std::span(todos).subspan(terminados));
+    terminados = todos.size();
   };
   for (int n = 1; n <= caudales; ++n) {
+    const Real Q = caudalVerificado(e, n);
     std::optional<Real> yc;
-    pasandoFallos([&] { yc = YCRITICO(caudalVerificado(e, n), e.bRapida, e.zRapida); });
+    pasandoFallos([&] { yc = YCRITICO(Q, e.bRapida, e.zRapida); });
     if (!yc) {
       terminar();
-      yc = finales.empty() ? Real(0) : finales.back();
+      yc = todos.empty() ? Real(0) : todos.back().y;
     }
-    tanda.y.push_back(*yc);
+    todos.push_back({Q, *yc, {}});
   }
   terminar();
+  std::vector<Real> finales;
+  for (const Descenso& d : todos) finales.push_back(d.y);
   return finales;
 }
 
