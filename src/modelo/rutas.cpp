@@ -7,7 +7,30 @@ namespace calvento {
 
 namespace fs = std::filesystem;
 
-fs::path comoRuta(std::string_view texto) { return fs::path(std::u8string(texto.begin(), texto.end())); }
+#ifdef _WIN32
+namespace {
+
+/// \\?\C:\… and \\?\UNC\server\… as they are written otherwise. The C library sees a wildcard in the prefix, which only
+/// longer paths need.
+std::string sinPrefijoLargo(std::string_view ruta) {
+  constexpr std::string_view prefijo = R"(\\?\)", red = R"(\\?\UNC\)";
+  constexpr std::size_t larga = 260;
+  if (ruta.size() >= larga || !ruta.starts_with(prefijo)) return std::string(ruta);
+  if (ruta.starts_with(red)) return R"(\\)" + std::string(ruta.substr(red.size()));
+  const bool conUnidad = ruta.size() > prefijo.size() + 1 && ruta[prefijo.size() + 1] == ':';
+  return std::string(conUnidad ? ruta.substr(prefijo.size()) : ruta);
+}
+
+}  // namespace
+#endif
+
+fs::path comoRuta(std::string_view texto) {
+#ifdef _WIN32
+  const std::string propia = sinPrefijoLargo(texto);
+  texto = propia;
+#endif
+  return fs::path(std::u8string(texto.begin(), texto.end()));
+}
 
 std::string comoTexto(const fs::path& ruta) {
   const std::u8string s = ruta.u8string();

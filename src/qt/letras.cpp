@@ -1,10 +1,9 @@
 #include "qt/letras.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QFontDatabase>
 #include <QFontInfo>
-#include <QGuiApplication>
 
 #ifdef _WIN32
 #include <string>
@@ -27,6 +26,19 @@ QString carpetaLetras() {
 #endif
 }
 
+/// For a class of widgets, "" for those of no such class, null where there are no widgets at all.
+void ponerLetra(const char* clase) {
+  const bool general = clase == nullptr || *clase == '\0';
+  QFont letra = general ? QGuiApplication::font() : QApplication::font(clase);
+  if (QFontInfo(letra).family().compare(letra.family(), Qt::CaseInsensitive) == 0) return;
+  for (const char* hay : {"Segoe UI", "Tahoma", "Arial", "Liberation Sans"})
+    if (QFontDatabase::hasFamily(QString::fromLatin1(hay))) {
+      letra.setFamily(QString::fromLatin1(hay));
+      if (clase == nullptr) return QGuiApplication::setFont(letra);
+      return QApplication::setFont(letra, general ? nullptr : clase);
+    }
+}
+
 }  // namespace
 
 void anunciarLetras() {
@@ -40,14 +52,11 @@ void cargarLetras() {
   if (carpeta.isEmpty()) return;
   for (const QFileInfo& f : QDir(carpeta).entryInfoList({QStringLiteral("*.ttf")}))
     QFontDatabase::addApplicationFont(f.absoluteFilePath());
-  QFont letra = QGuiApplication::font();
-  if (QFontInfo(letra).family().compare(letra.family(), Qt::CaseInsensitive) == 0) return;
-  for (const char* hay : {"Segoe UI", "Tahoma", "Arial", "Liberation Sans"})
-    if (QFontDatabase::hasFamily(QString::fromLatin1(hay))) {
-      letra.setFamily(QString::fromLatin1(hay));
-      QGuiApplication::setFont(letra);
-      return;
-    }
+  if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) return ponerLetra(nullptr);
+  // Windows names letters of their own for these
+  for (const char* clase : {"", "QMenu", "QMenuBar", "QStatusBar", "QMessageBox", "QTipLabel", "QMdiSubWindowTitleBar",
+                            "QHeaderView", "QAbstractItemView"})
+    ponerLetra(clase);
 }
 
 }  // namespace calvento

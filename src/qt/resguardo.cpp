@@ -9,9 +9,9 @@
 #include <QLineEdit>
 #include <QLockFile>
 #include <QMainWindow>
-#include <QStandardPaths>
 
 #include "modelo/rutas.h"
+#include "qt/ajustes.h"
 #include "qt/cadena.h"
 #include "qt/recientes.h"
 
@@ -39,7 +39,7 @@ QString horaDicha(std::chrono::system_clock::time_point hora) {
 }
 
 Resguardo::Resguardo()
-    : carpeta_(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/recuperar")),
+    : carpeta_(carpetaDatos() + QStringLiteral("/recuperar")),
       programa_(QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmsszzz-")) +
                 QString::number(QCoreApplication::applicationPid())),
       copias_({comoRuta(deQt(carpeta_)), deQt(programa_), [] { return Copias::Hora::clock::now(); },

@@ -23,6 +23,7 @@ class CarpetaPrueba {
     static std::atomic<int> numero = 0;
     raiz_ = std::filesystem::temp_directory_path() /
             ("calvento-prueba-" + std::to_string(getpid()) + "-" + std::to_string(numero++));
+    std::filesystem::remove_all(raiz_);  // of a run that was broken off, whose number comes again
     std::filesystem::create_directories(raiz_);
     std::filesystem::current_path(raiz_);
   }
@@ -36,11 +37,11 @@ class CarpetaPrueba {
 
   std::string en(std::string_view nombre) const { return (raiz_ / nombre).string(); }
   std::string escribir(std::string_view nombre, std::string_view contenido) const {
-    std::ofstream(en(nombre), std::ios::binary) << contenido;
+    std::ofstream(raiz_ / nombre, std::ios::binary) << contenido;
     return en(nombre);
   }
   std::string leer(std::string_view nombre) const {
-    std::ifstream f(en(nombre), std::ios::binary);
+    std::ifstream f(raiz_ / nombre, std::ios::binary);
     EXPECT_TRUE(f) << nombre;
     return std::string(std::istreambuf_iterator<char>(f), {});
   }

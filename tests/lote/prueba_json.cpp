@@ -63,7 +63,12 @@ TEST(ObjetoJson, HasItsPartsInTheirOrder) {
 
 TEST(ObjetoJson, TakesFileNamesOfAnyBytes) {
   const CarpetaPrueba carpeta;
-  for (const char* nombre : {"caña brava.cvr", "con \"comillas\".cvr", "roto\xff\xfe.cvr", "dos\nlineas.cvr"}) {
+#ifdef _WIN32
+  const auto nombres = {"caña brava.cvr"};
+#else
+  const auto nombres = {"caña brava.cvr", "con \"comillas\".cvr", "roto\xff\xfe.cvr", "dos\nlineas.cvr"};
+#endif
+  for (const char* nombre : nombres) {
     const Corrida c = correr({"--json", carpeta.escribir(nombre, ProyectoRapida().contenido())});
     EXPECT_EQ(c.estado, 0) << nombre << c.errores;
     EXPECT_EQ(c.objetos().size(), 1U) << nombre;

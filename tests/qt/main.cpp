@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QTemporaryDir>
 
+#include "qt/letras.h"
 #include "qt/tecleo.h"
 
 int main(int argc, char** argv) {
@@ -13,7 +14,10 @@ int main(int argc, char** argv) {
   const QTemporaryDir casa;
   for (const char* carpeta : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
     qputenv(carpeta, casa.filePath(QLatin1String(carpeta)).toLocal8Bit());
+  qputenv("CALVENTO_DATOS", casa.path().toLocal8Bit());
   testing::InitGoogleTest(&argc, argv);
+  calvento::anunciarLetras();
   QApplication aplicacion(argc, argv);
+  calvento::cargarLetras();
   return RUN_ALL_TESTS();
 }

@@ -11,6 +11,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QTextStream>
 
 #include "apoyo/carpeta_prueba.h"
@@ -35,7 +36,7 @@ qint64 ahora() {
 
 /// The user's folder, before the program looks for it.
 struct Casa {
-  Casa() { qputenv("XDG_DATA_HOME", carpeta.en("datos").c_str()); }
+  Casa() { qputenv("CALVENTO_DATOS", carpeta.en("datos").c_str()); }
   CarpetaPrueba carpeta;
 };
 
@@ -79,7 +80,7 @@ TEST_F(Resguardada, UnProgramaMatadoPierdeUnSegundoALoMas) {
       qEnvironmentVariableIntValue("CALVENTO_MUERTES") > 0 ? qEnvironmentVariableIntValue("CALVENTO_MUERTES") : 2;
   std::mt19937 azar(static_cast<unsigned>(ahora()));
   for (int i = 0; i < muertes; ++i) {
-    qputenv("XDG_DATA_HOME", carpeta.en("datos" + std::to_string(i)).c_str());
+    qputenv("CALVENTO_DATOS", carpeta.en("datos" + std::to_string(i)).c_str());
     QProcess otro;
     otro.start(QCoreApplication::applicationFilePath(), {"--teclear"});
     ASSERT_TRUE(otro.waitForReadyRead(20000));
@@ -147,9 +148,8 @@ TEST_F(Resguardada, LoQueSeDejaSinGuardarSeRecupera) {
 }
 
 TEST_F(Resguardada, CtrlZTraeLoQueHabiaAntesDeNuevoYDeAbrir) {
-  const std::string ejemplo = carpeta.escribir("uno.cvr", "");
-  std::filesystem::copy_file(RAIZ_PROYECTO "/ejemplos/01-rapida-un-tramo.cvr", ejemplo,
-                             std::filesystem::copy_options::overwrite_existing);
+  const std::string ejemplo = carpeta.en("uno.cvr");
+  std::filesystem::copy_file(RAIZ_PROYECTO "/ejemplos/01-rapida-un-tramo.cvr", ejemplo);
   abrirRapida();
   ASSERT_TRUE(programa.aplicacion.abrirProyecto(ejemplo));
   EXPECT_FALSE(conMarca());
@@ -178,9 +178,10 @@ TEST_F(Resguardada, CtrlZTraeLoQueHabiaAntesDeNuevoYDeAbrir) {
 TEST_F(Resguardada, UnaCopiaQueNoSePuedeEscribirSeDiceUnaVezYNoEstorba) {
   abrirRapida();
   {
-#ifdef _WIN32
+#ifdef _WIN32  // no limit for a file's size there: a file in the folder's place
     QFile estorbo(aQt(carpeta.en("datos")));
-    estorbo.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(estorbo.open(QIODevice::WriteOnly));
+    const auto fuera = qScopeGuard([&] { estorbo.remove(); });
 #else
     const DiscoLleno lleno(8);
 #endif
@@ -195,6 +196,7 @@ TEST_F(Resguardada, UnaCopiaQueNoSePuedeEscribirSeDiceUnaVezYNoEstorba) {
   escribir("Text5", "1.6");
   elegir("Form10", "mnnuevo");
   EXPECT_EQ(entradas("&Recuperar").size(), 1);
+#ifndef _WIN32  // where a folder with an open file stays
   // a folder that cannot be made
   QDir(aQt(carpeta.en("datos"))).removeRecursively();
   carpeta.escribir("datos", "");
@@ -204,6 +206,7 @@ TEST_F(Resguardada, UnaCopiaQueNoSePuedeEscribirSeDiceUnaVezYNoEstorba) {
   EXPECT_TRUE(nota().starts_with("Sin copia de seguridad: ")) << nota();
   tecla(Qt::Key_Z);
   EXPECT_EQ(texto("Text5"), "1.7");
+#endif
 }
 
 }  // namespace
