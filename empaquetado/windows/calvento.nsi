@@ -71,7 +71,12 @@ Function .onInit
     Abort
   ${EndIf}
   SetRegView 64
+  ; MultiUser would put its own folder in the place of that of /D
+  StrCpy $R0 $INSTDIR
   !insertmacro MULTIUSER_INIT
+  ${If} $R0 != ""
+    StrCpy $INSTDIR $R0
+  ${EndIf}
 FunctionEnd
 
 Function un.onInit

@@ -45,12 +45,35 @@ std::vector<std::string_view> MarcoDibujo::vistas() const {
   return nombres;
 }
 
-bool MarcoDibujo::ver(std::string_view nombre) {
+const MarcoDibujo::VistaFija* MarcoDibujo::fija(std::string_view nombre) const {
   const auto& todas = estructura_.vistas;
   const auto v = std::find_if(todas.begin(), todas.end(), [&](const VistaFija& f) { return f.nombre == nombre; });
-  if (v == todas.end()) return false;
+  return v == todas.end() ? nullptr : &*v;
+}
+
+bool MarcoDibujo::ver(std::string_view nombre) {
+  const VistaFija* v = fija(nombre);
+  if (v == nullptr) return false;
   mostrarVista(v->limites, nombre == "vistaTodo" ? Orden::principal : Orden::vistas);
   return true;
+}
+
+std::optional<MarcoDibujo::VistaPedida> MarcoDibujo::vistaPedida() const {
+  if (!pedida_) return std::nullopt;
+  return VistaPedida{*pedida_, orden_ == Orden::principal};
+}
+
+bool MarcoDibujo::volverA(const VistaPedida& vista) {
+  const VistaFija* todo = fija("vistaTodo");
+  const Vista& v = vista.limites;
+  bool toca = false;
+  if (todo == nullptr) return false;
+  pasandoFallos([&] {
+    const Vista figura = todo->limites();
+    toca = v.x1 < v.x2 && v.y1 < v.y2 && v.x1 < figura.x2 && v.x2 > figura.x1 && v.y1 < figura.y2 && v.y2 > figura.y1;
+  });
+  if (toca) mostrarVista([v] { return v; }, vista.principal ? Orden::principal : Orden::vistas);
+  return toca;
 }
 
 void MarcoDibujo::vistaMas() {

@@ -57,6 +57,16 @@ class MarcoDibujo : public Ventana {
   bool ver(std::string_view vista);
   std::vector<std::string_view> vistas() const;
 
+  /// A view as it was asked for, before it was widened to the canvas's proportions.
+  struct VistaPedida {
+    Vista limites;
+    bool principal = false;  ///< drawn in the order of the zoom box
+  };
+  /// The view that is shown; none where no view could be computed.
+  std::optional<VistaPedida> vistaPedida() const;
+  /// Shows a view of before again; false where nothing of the figure lies in it.
+  bool volverA(const VistaPedida& vista);
+
   void GRAF_MouseDown(Punto p);
   void GRAF_MouseMove(Punto p);
   void GRAF_MouseUp(Punto p);
@@ -73,6 +83,7 @@ class MarcoDibujo : public Ventana {
  private:
   enum class Orden { principal, vistas };
 
+  const VistaFija* fija(std::string_view nombre) const;
   void Toolbar1_ButtonClick(const std::string& clave);
   void mostrarVista(const std::function<Vista()>& limites, Orden orden);
   void redibujar();

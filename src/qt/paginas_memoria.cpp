@@ -47,6 +47,7 @@ void PaginasMemoria::ponerAumento(double aumento) {
   medir();
   verticalScrollBar()->setValue(static_cast<int>(arribaDe(donde) + parte * pixelesPorMm()));
   viewport()->update();
+  if (alAumentar) alAumentar();
 }
 
 void PaginasMemoria::alAncho() {
@@ -55,6 +56,7 @@ void PaginasMemoria::alAncho() {
   medir();
   irA(donde);
   viewport()->update();
+  if (alAumentar) alAumentar();
 }
 
 void PaginasMemoria::medir() {

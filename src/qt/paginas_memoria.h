@@ -19,10 +19,12 @@ class PaginasMemoria : public QAbstractScrollArea {
   double aumento() const { return aumento_; }
   /// So that a page is as wide as the view.
   void alAncho();
+  bool estaAlAncho() const { return ancho_; }
   void irA(int pagina);
   int pagina() const;
 
   std::function<void(int pagina)> alPasarPagina;
+  std::function<void()> alAumentar;  ///< the user sees the pages larger or smaller from now on
 
  protected:
   void paintEvent(QPaintEvent* evento) override;

@@ -60,8 +60,7 @@ SistemaQt::~SistemaQt() { cerrarTodo(); }
 void SistemaQt::cerrarTodo() {
   resguardo_.terminar();
   for (auto& [nombre, abierta] : abiertas_) {
-    resguardo_.olvidar(*abierta.ventana);
-    guardarLugarDe(abierta);
+    dejar(abierta);
     if (abierta.enlace) abierta.enlace->soltar();
   }
   // a frame of its own each: the area need not hold one that is hidden
@@ -113,6 +112,7 @@ SistemaQt::Abierta& SistemaQt::crear(Ventana& ventana) {
   unirTeclas(abierta);
   auto* datos = dynamic_cast<VentanaEstructura*>(&ventana);
   if (datos != nullptr) unirArchivo(*datos, v, *enlace);
+  if (auto* dibujo = dynamic_cast<MarcoDibujo*>(&ventana)) vistasDibujo_.alAbrir(*dibujo);
   if (datos != nullptr || ventana.seOculta()) enlace->alTocar = [this, &ventana] { resguardo_.tocada(ventana); };
   return abierta;
 }
@@ -172,6 +172,13 @@ void SistemaQt::guardarLugarDe(const Abierta& abierta) const {
   guardarLugar(abierta.ventana->nombre(), *marco, {lugar});
 }
 
+/// What is kept of a window that goes.
+void SistemaQt::dejar(const Abierta& abierta) {
+  resguardo_.olvidar(*abierta.ventana);
+  guardarLugarDe(abierta);
+  if (const auto* dibujo = dynamic_cast<const MarcoDibujo*>(abierta.ventana)) vistasDibujo_.alDejar(*dibujo);
+}
+
 /// A child stands where the user has left it before. Else it has the size of its design, or what the area offers as
 /// long as nothing of it is lost, and stands in the middle; where its least size is larger the area scrolls.
 QWidget* SistemaQt::colocarHija(QMainWindow& vista, const std::string& nombre) {
@@ -210,8 +217,7 @@ void SistemaQt::cerrar(Ventana& ventana) {
   std::erase(enEspera_, &ventana);
   const Abierta* abierta = buscar(ventana);
   if (abierta == nullptr) return;
-  resguardo_.olvidar(ventana);
-  guardarLugarDe(*abierta);
+  dejar(*abierta);
   abierta->enlace->soltar();
   QWidget* marco = abierta->marco;
   abiertas_.erase(ventana.nombre());

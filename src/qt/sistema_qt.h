@@ -17,6 +17,7 @@
 #include "qt/franja.h"
 #include "qt/resguardo.h"
 #include "qt/ventanas_ui.h"
+#include "qt/vistas_dibujo.h"
 
 class QMainWindow;
 class QMdiArea;
@@ -78,6 +79,7 @@ class SistemaQt : public QObject, public SistemaVentanas {
   QWidget* colocarHija(QMainWindow& vista, const std::string& nombre);
   void colocarSuelta(QMainWindow& vista);
   void guardarLugarDe(const Abierta& abierta) const;
+  void dejar(const Abierta& abierta);
   void unirTeclas(const Abierta& abierta);
   void pedirAyuda(const QWidget& marco);
   void traerAlFrente(QWidget* marco);
@@ -101,6 +103,7 @@ class SistemaQt : public QObject, public SistemaVentanas {
   std::vector<Ventana*> enEspera_;  ///< what is to stand above it, shown after it
   std::map<std::string, Abierta, std::less<>> abiertas_;
   Resguardo resguardo_;
+  VistasDibujo vistasDibujo_;
 };
 
 }  // namespace calvento

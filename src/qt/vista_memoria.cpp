@@ -37,6 +37,7 @@ namespace calvento {
 namespace {
 
 constexpr double pasoAumento = 1.25;
+const QString claveAumento = QStringLiteral("memoria/aumento");
 
 void decir(QWidget* dueno, const QString& texto) {
   QMessageBox caja(QMessageBox::Warning, QStringLiteral("Calvento"), texto, QMessageBox::NoButton, dueno);
@@ -93,6 +94,11 @@ VistaMemoria::VistaMemoria(QWidget* padre) : QWidget(padre) {
 
   paginas_ = new PaginasMemoria(this);
   paginas_->alPasarPagina = [this](int p) { alPasarPagina(p); };
+  if (const double aumento = guardado.value(claveAumento).toDouble(); aumento > 0) paginas_->ponerAumento(aumento);
+  paginas_->alAumentar = [this] {
+    QSettings a = ajustes();
+    paginas_->estaAlAncho() ? a.remove(claveAumento) : a.setValue(claveAumento, paginas_->aumento());
+  };
   auto* lado = new QWidget(this);
   auto* columna = new QVBoxLayout(lado);
   columna->setContentsMargins(4, 4, 0, 4);
