@@ -54,7 +54,8 @@ void cargarLetras() {
     QFontDatabase::addApplicationFont(f.absoluteFilePath());
   // what no font there is called, the sketches', and what may be missing
   for (const char* nombre : {"sans-serif", "Arial", "Courier New"})
-    QFont::insertSubstitutions(QString::fromLatin1(nombre), {QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
+    QFont::insertSubstitutions(QString::fromLatin1(nombre),
+                               {QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
   if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) return ponerLetra(nullptr);
   // Windows names letters of their own for these
   for (const char* clase : {"", "QMenu", "QMenuBar", "QStatusBar", "QMessageBox", "QTipLabel", "QMdiSubWindowTitleBar",

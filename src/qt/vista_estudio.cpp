@@ -134,7 +134,8 @@ QWidget* VistaEstudio::hacerCurva() {
   rotulo->setBuddy(resultado_);
   arriba->addWidget(rotulo);
   arriba->addWidget(resultado_, 1);
-  auto* curva = boton(*lado, QStringLiteral("Guardar &curva..."), *arriba);
+  guardarCurva_ = boton(*lado, QStringLiteral("Guardar &curva..."), *arriba);
+  guardarCurva_->setEnabled(false);
   columna->addLayout(arriba);
   curva_ = new CurvaEstudio(lado);
   columna->addWidget(curva_, 1);
@@ -149,7 +150,7 @@ QWidget* VistaEstudio::hacerCurva() {
   abajo->addStretch();
   columna->addLayout(abajo);
   connect(resultado_, &QComboBox::currentIndexChanged, this, &VistaEstudio::dibujar);
-  connect(curva, &QPushButton::clicked, this, &VistaEstudio::pedirCurva);
+  connect(guardarCurva_, &QPushButton::clicked, this, &VistaEstudio::pedirCurva);
   connect(buscar, &QPushButton::clicked, this, &VistaEstudio::buscarValor);
   connect(buscado_, &QLineEdit::returnPressed, this, &VistaEstudio::buscarValor);
   curva_->alElegir = [this](std::size_t fila) { elegir(fila); };
@@ -223,7 +224,7 @@ void VistaEstudio::detener() {
   QString texto = QStringLiteral("%1 diseños, %2 con resultado.").arg(filas.size()).arg(bien);
   if (!estudio_->terminado()) texto += QStringLiteral(" Detenido: eran %1.").arg(estudio_->total());
   decir(texto);
-  for (QPushButton* b : {usar_, guardar_}) b->setEnabled(!filas.empty());
+  for (QPushButton* b : {usar_, guardar_, guardarCurva_}) b->setEnabled(!filas.empty());
   dibujar();
 }
 

@@ -63,7 +63,7 @@ class VistaEstudio : public QWidget {
   QLineEdit* buscado_;
   QLabel* aviso_;
   QProgressBar* progreso_;
-  QPushButton *calcular_, *detener_, *usar_, *guardar_;
+  QPushButton *calcular_, *detener_, *usar_, *guardar_, *guardarCurva_;
   QTimer turno_;
 };
 
