@@ -2,13 +2,11 @@
 
 #include <QApplication>
 #include <QFileDialog>
-#include <QFileIconProvider>
-#include <QHeaderView>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTreeView>
 
 #include "qt/cadena.h"
+#include "qt/pedir_archivo.h"
 
 namespace calvento {
 
@@ -26,31 +24,13 @@ void decir(QMessageBox::Icon icono, const std::string& texto) {
   caja.exec();
 }
 
-/// The kinds of the files in the dialog's list, which Qt tells in English.
-class Clases : public QFileIconProvider {
- public:
-  QString type(const QFileInfo& archivo) const override {
-    return archivo.isDir() ? QStringLiteral("Carpeta") : QStringLiteral("Archivo");
-  }
-};
-
-std::optional<std::string> pedirArchivo(QFileDialog& dialogo, const OpcionesArchivo& opciones) {
-  Clases clases;
-  dialogo.setIconProvider(&clases);
+std::optional<std::string> elegir(QFileDialog& dialogo, const OpcionesArchivo& opciones) {
   dialogo.setWindowTitle(aQt(opciones.titulo));
-  dialogo.resize(dialogo.size().expandedTo(QSize(760, 440)));
-  for (QTreeView* lista : dialogo.findChildren<QTreeView*>())  // no column is cut
-    lista->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   dialogo.setOption(QFileDialog::HideNameFilterDetails);
   dialogo.setNameFilter(filtroQt(opciones.filtro));
   dialogo.setDefaultSuffix(aQt(opciones.extension));
-  dialogo.setLabelText(QFileDialog::LookIn, QStringLiteral("Buscar en:"));
-  dialogo.setLabelText(QFileDialog::FileName, QStringLiteral("&Nombre de archivo:"));
-  dialogo.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo:"));
-  dialogo.setLabelText(QFileDialog::Reject, QStringLiteral("Cancelar"));
-  if (!opciones.sugerido.empty()) dialogo.selectFile(aQt(opciones.sugerido));
-  if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return std::nullopt;
-  return deQt(dialogo.selectedFiles().constFirst());
+  const QString elegido = elegirArchivo(dialogo, aQt(opciones.sugerido));
+  return elegido.isEmpty() ? std::nullopt : std::optional(deQt(elegido));
 }
 
 }  // namespace
@@ -73,8 +53,7 @@ std::optional<std::string> DialogosQt::abrirArchivo(const OpcionesArchivo& opcio
   QFileDialog dialogo(duenoDeCajas());
   dialogo.setAcceptMode(QFileDialog::AcceptOpen);
   dialogo.setFileMode(QFileDialog::ExistingFile);
-  dialogo.setLabelText(QFileDialog::Accept, QStringLiteral("Abrir"));
-  return pedirArchivo(dialogo, opciones);
+  return elegir(dialogo, opciones);
 }
 
 std::optional<std::string> DialogosQt::guardarArchivo(const OpcionesArchivo& opciones) {
@@ -82,8 +61,7 @@ std::optional<std::string> DialogosQt::guardarArchivo(const OpcionesArchivo& opc
   dialogo.setAcceptMode(QFileDialog::AcceptSave);
   dialogo.setFileMode(QFileDialog::AnyFile);
   dialogo.setOption(QFileDialog::DontConfirmOverwrite);  // the program asks by itself
-  dialogo.setLabelText(QFileDialog::Accept, QStringLiteral("Guardar"));
-  return pedirArchivo(dialogo, opciones);
+  return elegir(dialogo, opciones);
 }
 
 QString filtroQt(const std::string& filtro) {

@@ -1,8 +1,40 @@
 #include "qt/pedir_archivo.h"
 
 #include <QFileDialog>
+#include <QFileIconProvider>
+#include <QHeaderView>
+#include <QTreeView>
 
 namespace calvento {
+
+namespace {
+
+/// The kinds of the files in the dialog's list, which Qt tells in English.
+class Clases : public QFileIconProvider {
+ public:
+  QString type(const QFileInfo& archivo) const override {
+    return archivo.isDir() ? QStringLiteral("Carpeta") : QStringLiteral("Archivo");
+  }
+};
+
+}  // namespace
+
+QString elegirArchivo(QFileDialog& dialogo, const QString& sugerido) {
+  Clases clases;
+  dialogo.setIconProvider(&clases);
+  dialogo.resize(dialogo.size().expandedTo(QSize(760, 440)));
+  for (QTreeView* lista : dialogo.findChildren<QTreeView*>())  // no column is cut
+    lista->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  dialogo.setLabelText(QFileDialog::LookIn, QStringLiteral("Buscar en:"));
+  dialogo.setLabelText(QFileDialog::FileName, QStringLiteral("&Nombre de archivo:"));
+  dialogo.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo:"));
+  dialogo.setLabelText(QFileDialog::Reject, QStringLiteral("Cancelar"));
+  dialogo.setLabelText(QFileDialog::Accept, dialogo.acceptMode() == QFileDialog::AcceptSave ? QStringLiteral("Guardar")
+                                                                                            : QStringLiteral("Abrir"));
+  if (!sugerido.isEmpty()) dialogo.selectFile(sugerido);
+  if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return {};
+  return dialogo.selectedFiles().constFirst();
+}
 
 QString pedirArchivo(QWidget& dueno, const QString& titulo, const QStringList& filtros, const QString& sugerido) {
   QFileDialog dialogo(&dueno, titulo);
@@ -15,9 +47,7 @@ QString pedirArchivo(QWidget& dueno, const QString& titulo, const QStringList& f
   dialogo.setDefaultSuffix(extension(filtros.constFirst()));
   QObject::connect(&dialogo, &QFileDialog::filterSelected, &dialogo,
                    [&](const QString& f) { dialogo.setDefaultSuffix(extension(f)); });
-  dialogo.selectFile(sugerido);
-  if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return {};
-  return dialogo.selectedFiles().constFirst();
+  return elegirArchivo(dialogo, sugerido);
 }
 
 }  // namespace calvento

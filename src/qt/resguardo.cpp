@@ -114,13 +114,12 @@ void Resguardo::tocada(const Ventana& ventana) {
 
 void Resguardo::mirar() {
   for (const auto& v : vigiladas_)
-    if (v->sucia && v->vista) v->vista->setWindowModified(v->base != v->ventana->trabajo().contenido);
+    if (v->vista) v->vista->setWindowModified(v->base != v->ventana->trabajo().contenido);
 }
 
 void Resguardo::copiar(Vigilada& v) {
   if (!std::exchange(v.sucia, false)) return;
   Trabajo t = v.ventana->trabajo();
-  if (v.vista) v.vista->setWindowModified(v.base != t.contenido);
   if (v.base == t.contenido) {
     if (v.copiada) copias_.soltar(v.ventana->formato(), t.contenido);
     v.copiada.reset();

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 #include <set>
 
+#include <QCoreApplication>
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QRegularExpression>
@@ -14,6 +16,18 @@
 
 namespace calvento {
 namespace {
+
+/// What is typed after a field is entered takes the place of what stands there.
+void entrarEnCadaCampo(QMainWindow& vista) {
+  for (QLineEdit* campo : vista.findChildren<QLineEdit*>(QRegularExpression("^Text"))) {
+    if (!campo->isEnabled() || campo->isReadOnly()) continue;
+    campo->setText("12");
+    campo->deselect();
+    QFocusEvent foco(QEvent::FocusIn, Qt::OtherFocusReason);
+    QCoreApplication::sendEvent(campo, &foco);
+    EXPECT_EQ(campo->selectedText(), "12") << deQt(campo->objectName()) << " is not selected by its focus";
+  }
+}
 
 class VentanaCompleta : public testing::TestWithParam<std::string> {};
 
@@ -29,6 +43,7 @@ TEST_P(VentanaCompleta, SeEnlazaConSuDiseno) {
   ventanaUi(GetParam())->construir(vista);
   try {
     Enlace enlace(*ventana, vista, [](const std::string& texto) { ADD_FAILURE() << texto; });
+    entrarEnCadaCampo(vista);
     enlace.soltar();
   } catch (const FalloEnlace& fallo) {
     FAIL() << fallo.what();

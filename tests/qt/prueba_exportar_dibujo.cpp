@@ -3,15 +3,20 @@
 #include <string>
 #include <utility>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
 
 #include "plataforma/lienzo.h"
 #include "qt/cadena.h"
 #include "qt/exportar_dibujo.h"
+#include "qt/pedir_archivo.h"
 #include "salida_de.h"
 
 namespace calvento {
@@ -95,6 +100,29 @@ TEST_F(Exportar, LoQueNoSePuedeEscribirSeDiceYNoDejaRastro) {
   const QByteArray antes = leer(ruta("b.svg"));
   EXPECT_THROW(exportarDibujo(Lienzo(0, 0), deQt(ruta("b.svg"))), std::runtime_error);
   EXPECT_EQ(leer(ruta("b.svg")), antes);
+}
+
+TEST_F(Exportar, TheFileBoxGivesANameOnlyWhereItIsAccepted) {
+  QWidget ventana;
+  ventana.show();
+  const auto pedir = [&](Qt::Key tecla, const char* nombre, const char* filtro) {
+    QTimer::singleShot(0, &ventana, [&] {
+      auto* caja = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(caja, nullptr);
+      EXPECT_EQ(caja->labelText(QFileDialog::Accept) + caja->labelText(QFileDialog::Reject), "GuardarCancelar");
+      caja->setDirectory(carpeta_.path());
+      caja->selectNameFilter(filtro);
+      emit caja->filterSelected(filtro);
+      auto* campo = caja->findChild<QLineEdit*>("fileNameEdit");
+      if (nombre != nullptr) campo->setText(nombre);
+      QTest::keyClick(campo, tecla);
+    });
+    return pedirArchivo(ventana, "Guardar", {"PDF (*.pdf)", "SVG (*.svg)"}, "curva");
+  };
+  EXPECT_EQ(pedir(Qt::Key_Escape, nullptr, "PDF (*.pdf)"), "");
+  EXPECT_EQ(pedir(Qt::Key_Return, "otra", "PDF (*.pdf)"), ruta("otra.pdf"));
+  EXPECT_EQ(pedir(Qt::Key_Return, "otra", "SVG (*.svg)"), ruta("otra.svg"));
+  EXPECT_EQ(pedir(Qt::Key_Return, "otra.png", "SVG (*.svg)"), ruta("otra.png"));
 }
 
 }  // namespace

@@ -123,6 +123,15 @@ TEST_F(Resguardada, LoQueSeDejaSinGuardarSeRecupera) {
   abrirRapida();
   escribir("Text5", "3.75");
   escribir("Text1", "1850");
+  QTest::qWait(1100);
+  {
+    DialogosGuion cajas;
+    Programa otro(cajas);
+    for (const char* ventana : {"frmMain", "Form10"}) otro.aplicacion.mostrar(ventana);
+    QTest::qWait(20);
+    EXPECT_EQ(otro.sistema.vista("Form10")->findChild<QLabel*>("sbStatusBar_nota")->text(), "")
+        << "also the very first copy in a new folder is that of a program that runs";
+  }
   elegir("Form10", "mncerrar");
   QTest::qWait(10);
   abrirRapida();
