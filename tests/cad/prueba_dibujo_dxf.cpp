@@ -160,6 +160,8 @@ TEST(CotaDxf, AVerticalOneIsReadFromTheRightAndAShortOneHasItsArrowsOutside) {
   const DibujoCota corta = dibujarCota({{0, 0}, {0.1, 0}, {0.05, -0.4}, 0.075, 0.075, 0.2, 0.075, 1});
   EXPECT_LT(corta.flechas[0].izquierda.x, 0);
   EXPECT_GT(corta.flechas[1].izquierda.x, 0.1);
+  ASSERT_EQ(corta.lineas.size(), 5u);  // two extension lines, the whole dimension line, behind each arrow its tail
+  EXPECT_NEAR(corta.lineas[2].b.x - corta.lineas[2].a.x, 0.1, 1e-12) << "a text above breaks nothing";
   EXPECT_EQ(dibujarCota({{3, 3}, {3, 3}, {3, 3}}).medida, 0);
 }
 
