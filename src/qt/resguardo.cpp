@@ -68,7 +68,6 @@ void Resguardo::echarCerrojo() {
   if (cerrojo_ && cerrojo_->isLocked()) return;
   copias_.hacerCarpeta();
   cerrojo_ = std::make_unique<QLockFile>(cerrojoDe(carpeta_, programa_));
-  cerrojo_->setStaleLockTime(0);
   cerrojo_->tryLock(0);
 }
 

@@ -221,7 +221,6 @@ void SistemaQt::cerrar(Ventana& ventana) {
   abierta->enlace->soltar();
   QWidget* marco = abierta->marco;
   abiertas_.erase(ventana.nombre());
-  marco->removeEventFilter(this);
   quitar(*marco);
   marco->deleteLater();
 }

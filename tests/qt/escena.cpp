@@ -46,12 +46,19 @@ void Escena::Cajas::fallo(const std::string& texto) {
     if (const std::string m = escena.marcados(std::string(v.nombre)); !m.empty()) escena.conLaCaja_ = m;
 }
 
-Escena::Escena(const std::vector<std::string>& lineas) {
-  programa_.aplicacion.arrancar();
-  if (!QTest::qWaitFor([this] { return programa_.sistema.vista("frmAbout") != nullptr; }))
+void Escena::arrancar() {
+  programa_.reset();
+  programa_ = std::make_unique<Programa>(cajas_);
+  programa_->aplicacion.arrancar();
+  if (!QTest::qWaitFor([this] { return programa_->sistema.vista("frmAbout") != nullptr; }))
     throw std::runtime_error("the program does not start");
-  programa_.aplicacion.descargar(*programa_.aplicacion.cargada("frmAbout"));
-  EXPECT_TRUE(QTest::qWaitForWindowActive(programa_.sistema.vista("frmMain")));
+  programa_->aplicacion.descargar(*programa_->aplicacion.cargada("frmAbout"));
+  EXPECT_TRUE(QTest::qWaitForWindowActive(programa_->sistema.vista("frmMain")));
+}
+
+Escena::Escena(const std::vector<std::string>& lineas) {
+  qputenv("CALVENTO_DATOS", carpeta_.en("datos").c_str());
+  arrancar();
   for (const std::string& l : lineas) {
     SCOPED_TRACE(l);
     const auto [orden, resto] = partidoEn(l, ' ');
@@ -63,9 +70,11 @@ Escena::Escena(const std::vector<std::string>& lineas) {
 void Escena::dar(const std::string& orden, const std::string& resto) {
   const auto [primero, demas] = partidoEn(resto, ' ');
   if (orden == "ve") return comprobar(resto);
-  Aplicacion& a = programa_.aplicacion;
+  if (orden == "reinicia") return arrancar();
+  Aplicacion& a = programa_->aplicacion;
   if (orden == "caja") {
-    prepararCaja(cajas_, resto);
+    const auto k = resto.find("{}");
+    prepararCaja(cajas_, k == std::string::npos ? resto : std::string(resto).replace(k, 2, carpeta_.en("")));
   } else if (orden == "tolera") {
     cajas_.tolera(resto == "fallo" ? DialogosGuion::Clase::fallo : DialogosGuion::Clase::aviso);
     if (resto == "todo") cajas_.tolera(DialogosGuion::Clase::fallo).tolera(DialogosGuion::Clase::pregunta);
@@ -73,6 +82,8 @@ void Escena::dar(const std::string& orden, const std::string& resto) {
     std::string contenido;
     for (const std::string& l : partido(demas, '/')) contenido += l + "\n";
     carpeta_.escribir(primero, contenido);
+  } else if (orden == "borra") {
+    EXPECT_TRUE(std::filesystem::remove(carpeta_.en(resto)));
   } else if (orden == "abre") {
     EXPECT_TRUE(a.abrirProyecto(resto.starts_with("ejemplos/") ? RAIZ_PROYECTO "/" + resto : resto));
   } else if (orden == "muestra") {
@@ -80,7 +91,7 @@ void Escena::dar(const std::string& orden, const std::string& resto) {
   } else if (orden == "oculta") {
     a.ocultar(*a.cargada(resto));
   } else if (orden == "cierra") {
-    programa_.sistema.marco(resto)->close();
+    programa_->sistema.marco(resto)->close();
   } else if (orden == "anota") {
     notas_[primero] = valor(demas);
   } else if (orden == "espia") {
@@ -105,6 +116,8 @@ void Escena::dar(const std::string& orden, const std::string& resto) {
   } else if (orden == "elige") {
     auto* accion = qobject_cast<QAction*>(o);
     accion != nullptr ? accion->trigger() : (void)o->setProperty("currentIndex", std::stoi(demas));
+  } else if (orden == "llama") {
+    EXPECT_TRUE(QMetaObject::invokeMethod(o, demas.c_str()));
   } else if (auto* w = qobject_cast<QWidget*>(o); orden == "enfoca") {
     w->setFocus();
   } else if (orden == "mueve") {
@@ -177,9 +190,10 @@ void Escena::raton(const std::string& donde) {
   QTest::keyClick(menu, Qt::Key_Return);
 }
 
-/// "NAME = TEXT", "!=" or "<"; "(a b)" in the name stands for each of them, "@nota" for what was noted.
+/// "NAME = TEXT", "!=", "<", "~" or "!~" for a part of it; "(a b)" in the name stands for each of them, "@nota" for
+/// what was noted.
 void Escena::comprobar(const std::string& que) {
-  const std::size_t i = std::min({que.find(" ="), que.find(" !="), que.find(" <")});
+  const std::size_t i = std::min({que.find(" ="), que.find(" !"), que.find(" <"), que.find(" ~")});
   ASSERT_NE(i, std::string::npos);
   std::string nombre = sinBlancos(que.substr(0, i)), debe = que.substr(i + 1);
   const std::string signo = debe.substr(0, debe[0] == '!' ? 2 : 1);
@@ -197,7 +211,8 @@ void Escena::comprobar(const std::string& que) {
     const bool bien = QTest::qWaitFor(
         [&] {
           es = valor(este);
-          return signo == "<" ? std::stod(es) < std::stod(debe) : (es == debe) == (signo == "=");
+          if (signo == "<") return std::stod(es) < std::stod(debe);
+          return (signo.back() == '~' ? es.find(debe) != std::string::npos : es == debe) == (signo[0] != '!');
         },
         1000);
     EXPECT_TRUE(bien) << este << " is \"" << es << "\"";
@@ -205,7 +220,7 @@ void Escena::comprobar(const std::string& que) {
 }
 
 QMainWindow* Escena::vista(const std::string& nombre) const {
-  return nombre == "Banco" && banco_ ? &banco_->vista : programa_.sistema.vista(nombre);
+  return nombre == "Banco" && banco_ ? &banco_->vista : programa_->sistema.vista(nombre);
 }
 
 /// A property of the control as a program sets it: "Text2.Enabled" of the bench.
@@ -218,6 +233,7 @@ void Escena::programa(const std::string& propiedad, const std::string& texto) {
   if (cual == "Visible") c->Visible = texto == "sí";
   if (cual == "ToolTipText") c->ToolTipText = texto;
   if (cual == "Text") v.buscar<TextBox>(nombre)->Text = texto;
+  if (propiedad == "Command1.Caption") v.Command1.Caption = texto;
   if (propiedad == "Label1.Caption") v.Label1.Caption = texto;
   if (cual == "Panel1") v.Barra.Panel1 = texto;
   if (cual == "Max") v.Bar1.Max = std::stoi(texto);
@@ -233,7 +249,7 @@ QObject* Escena::objeto(const std::string& nombre, const std::string& clase) con
   QMainWindow* suya = vista(ventana);
   if (suya == nullptr || resto.empty() || ventana == "Banco")
     return suya == nullptr || resto.empty() ? suya : suya->findChild<QObject*>(aQt(resto));
-  QWidget* marco = programa_.sistema.marco(ventana);
+  QWidget* marco = programa_->sistema.marco(ventana);
   if (resto == "marco") return marco;
   if (resto != "franja") return suya->findChild<QObject*>(aQt(resto));
   const auto* franja = marco->findChild<QWidget*>("franja");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,8 @@ class Escena {
     void fallo(const std::string& texto) override;
     Escena& escena;
   };
+  /// The program starts, in the same user's account as before.
+  void arrancar();
   void dar(const std::string& orden, const std::string& resto);
   void teclear(const std::string& texto);
   void tecla(const std::string& cual);
@@ -53,7 +56,7 @@ class Escena {
   std::map<std::string, std::string> notas_;
   std::string hecho_, conLaCaja_;
   Cajas cajas_{*this};
-  Programa programa_{cajas_};
+  std::unique_ptr<Programa> programa_;
   std::unique_ptr<BancoEnPantalla> banco_;
 };
 

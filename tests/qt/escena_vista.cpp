@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiSubWindow>
@@ -28,14 +29,14 @@ std::string siNo(bool b) { return b ? "sí" : "no"; }
 std::vector<QMdiSubWindow*> Escena::enOrden() const {
   std::vector<QMdiSubWindow*> todas;
   for (QMdiSubWindow* h :
-       programa_.sistema.vista("frmMain")->findChild<QMdiArea*>()->subWindowList(QMdiArea::StackingOrder))
+       programa_->sistema.vista("frmMain")->findChild<QMdiArea*>()->subWindowList(QMdiArea::StackingOrder))
     if (h->isVisible()) todas.insert(todas.begin(), h);
   return todas;
 }
 
 /// The window that is active, above all others and has the focus.
 std::string Escena::enFrente() const {
-  const auto* activa = programa_.sistema.vista("frmMain")->findChild<QMdiArea*>()->activeSubWindow();
+  const auto* activa = programa_->sistema.vista("frmMain")->findChild<QMdiArea*>()->activeSubWindow();
   if (activa == nullptr || activa != enOrden().front()) return "not above the others";
   const QWidget* foco = QApplication::focusWidget();
   return (foco != nullptr && activa->isAncestorOf(foco) ? "" : "without the focus ") +
@@ -44,7 +45,7 @@ std::string Escena::enFrente() const {
 
 std::string Escena::marcados(const std::string& ventana) const {
   std::set<std::string> todos;
-  if (const QMainWindow* vista = programa_.sistema.vista(ventana))
+  if (const QMainWindow* vista = programa_->sistema.vista(ventana))
     for (const QLineEdit* c : vista->findChildren<QLineEdit*>())
       if (!c->accessibleDescription().isEmpty()) todos.insert(deQt(c->objectName() + ": " + c->toolTip()));
   std::string s;
@@ -57,6 +58,12 @@ std::string Escena::valor(const std::string& nombre) const {
   if (nombre == "hecho") return sinBlancos(banco_ ? banco_->v.hecho : hecho_);
   if (nombre == "conLaCaja") return conLaCaja_;
   if (nombre == "enfrente") return enFrente();
+  if (nombre == "sugerido") return cajas_.ultimasOpciones.sugerido;
+  if (nombre == "copiado") {
+    const QImage i = QGuiApplication::clipboard()->image();
+    return i.isNull() ? deQt(QGuiApplication::clipboard()->text())
+                      : "imagen " + std::to_string(i.width()) + " x " + std::to_string(i.height());
+  }
   if (nombre == "foco") {
     const QWidget* f = QApplication::focusWidget();
     const QWidget* v = f;
@@ -74,7 +81,7 @@ std::string Escena::valor(const std::string& nombre) const {
   }
   if (nombre == "menu") {  // whose menu bar the keys are in
     for (const VentanaUi& v : ventanasUi())
-      if (const QMainWindow* vista = programa_.sistema.vista(v.nombre))
+      if (const QMainWindow* vista = programa_->sistema.vista(v.nombre))
         if (const auto* barra = qobject_cast<QMenuBar*>(vista->menuWidget()); barra != nullptr && barra->hasFocus())
           s += barra->activeAction() != nullptr ? v.nombre : "nothing chosen";
     return s;
@@ -82,21 +89,22 @@ std::string Escena::valor(const std::string& nombre) const {
   if (nombre == "desplegado") {
     const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     for (const QAction* a : menu == nullptr ? QList<QAction*>() : menu->actions())
-      if (!a->isSeparator()) s += (s.empty() ? "" : " | ") + std::string(a->isChecked() ? "*" : "") + deQt(a->text());
+      if (!a->isSeparator())
+        s += (s.empty() ? "" : " | ") + std::string(a->isChecked() ? "*" : a->isEnabled() ? "" : "-") + deQt(a->text());
     return s;
   }
   const auto [ventana, resto] = partidoEn(nombre, '.');
   if (ventana == "estado") {
     for (const CampoSingle& c : camposSingle())
-      if (c.nombre == resto) return texto(programa_.aplicacion.estado.*c.campo);
+      if (c.nombre == resto) return texto(programa_->aplicacion.estado.*c.campo);
   }
-  return deVentana(ventana, resto);
+  return ventana == "archivo" ? carpeta_.leer(resto) : deVentana(ventana, resto);
 }
 
 std::string Escena::deVentana(const std::string& ventana, const std::string& que) const {
   QMainWindow* suya = vista(ventana);
   if (que.empty()) {
-    const QWidget* marco = programa_.sistema.marco(ventana);
+    const QWidget* marco = programa_->sistema.marco(ventana);
     return marco == nullptr ? noEsta : marco->isVisible() ? "a la vista" : "oculta";
   }
   if (suya == nullptr) return noEsta;
@@ -123,6 +131,10 @@ std::string Escena::deWidget(const std::string& ventana, QObject& o, const std::
   auto* w = qobject_cast<QWidget*>(&o);
   if (que == "hidden") return siNo(w->isHidden());
   if (que == "fondo") return deQt(w->palette().color(QPalette::Base).name());
+  if (que == "pintado") {
+    const QImage imagen = w->grab().toImage();
+    return std::to_string(qHashBits(imagen.constBits(), static_cast<std::size_t>(imagen.sizeInBytes())));
+  }
   if (que == "indice") return std::to_string(w->parentWidget()->children().indexOf(w));
   if (que == "marcado")
     return siNo(w->palette().color(QPalette::Base) != vista(ventana)->palette().color(QPalette::Base));
@@ -130,7 +142,7 @@ std::string Escena::deWidget(const std::string& ventana, QObject& o, const std::
   if (que == "SelLength") return std::to_string(banco_->v.buscar<TextBox>(deQt(o.objectName()))->SelLength);
   if (que == "dibujado")
     return std::to_string(
-        programa_.aplicacion.cargada(ventana)->buscar<PictureBox>(deQt(o.objectName()))->lienzo.version());
+        programa_->aplicacion.cargada(ventana)->buscar<PictureBox>(deQt(o.objectName()))->lienzo.version());
   if (que == "leido") {
     auto* lector = QAccessible::queryAccessibleInterface(&o);
     if (lector->textInterface() == nullptr || !lector->state().readOnly) return "no result";

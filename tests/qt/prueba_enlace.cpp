@@ -49,6 +49,8 @@ TEST_F(EnlaceBanco, ElTextoLlegaUnaVezVengaDeDondeVenga) {
   v.Text2.Text = std::string("4,5");  // the program's: as it is, and no change of the user's beside its own
   EXPECT_EQ(cambios, (std::vector<std::string>{"2.5", "2.51", "72.51", "2.51", "4,5"}));
   EXPECT_EQ(texto2->text(), "4,5");
+  v.Text2.Text = std::string("2\xF1");  // bytes that are no letters stay what the file had
+  EXPECT_EQ(v.Text2.Text.valor(), "2\xF1");
 }
 
 TEST_F(EnlaceBanco, LoQueUnManejadorLanzaSeDiceYElProgramaSigueHastaQueSeSuelta) {

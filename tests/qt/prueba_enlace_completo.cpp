@@ -2,17 +2,25 @@
 #include <gtest/gtest.h>
 #include <set>
 
+#include <QAction>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QFocusEvent>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QRegularExpression>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTableView>
 
 #include "apoyo/dialogos_guion.h"
 #include "plataforma/ventana_datos.h"
 #include "qt/boceto.h"
 #include "qt/cadena.h"
 #include "qt/programa.h"
+#include "qt/vista_lienzo.h"
 
 namespace calvento {
 namespace {
@@ -95,12 +103,24 @@ TEST(EnlaceIncompleto, NombraTodoLoQueFalta) {
   QMainWindow vista;
   for (const char* nombre : {"Text1", "Command1", "Text9"})
     (new QLineEdit(&vista))->setObjectName(QLatin1String(nombre));
+  std::vector<std::string> solos{"Command1", "Text9"};
+  // each kind that can be worked, none of its own parts
+  for (QWidget* w : std::initializer_list<QWidget*>{new QPlainTextEdit, new QTextEdit, new QRadioButton, new QComboBox,
+                                                    new QSpinBox, new QSlider, new QTableView, new VistaLienzo}) {
+    w->setParent(&vista);
+    solos.push_back("(" + std::string(w->metaObject()->className()) + " sin nombre)");
+  }
+  solos.emplace_back("mnsuelto");
+  (new QAction(&vista))->setObjectName("mnsuelto");
   try {
     const Enlace enlace(ventana, vista, nullptr);
     FAIL() << "joined";
   } catch (const FalloEnlace& fallo) {
     EXPECT_EQ(fallo.controlesSolos(), (std::vector<std::string>{"Text2", "Command1", "Toolbar1"}));
-    EXPECT_EQ(fallo.widgetsSolos(), (std::vector<std::string>{"Command1", "Text9"}));
+    EXPECT_EQ(fallo.widgetsSolos(), solos);
+    EXPECT_TRUE(
+        std::string(fallo.what())
+            .starts_with("Manca:\ncontroles sin widget: Text2 Command1 Toolbar1\nwidgets sin control: Command1 Text9"));
   }
   ventana.Text1.Text = "1";  // nothing of the failed joint is left behind
 }

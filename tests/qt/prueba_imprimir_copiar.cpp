@@ -94,6 +94,9 @@ TEST_F(ConDiseno, WithoutAPrinterOneShortMessageIsAll) {
   EXPECT_TRUE(dialogos.dichas.empty()) << "before the menu could close";
   QTest::qWait(0);
   EXPECT_EQ(dialogos.dichas.size(), 1u);
+  dialogos.esperaFallo("No hay una impresora predeterminada");
+  QTest::keyClick(programa.sistema.vista("Form15"), Qt::Key_P, Qt::ControlModifier);
+  QTest::qWait(0);
 }
 
 /// Notes what a progress bar showed each time it was painted.

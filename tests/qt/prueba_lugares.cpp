@@ -16,25 +16,6 @@ class Lugares : public EnElEscritorio {
   }
 };
 
-TEST_F(Lugares, UnaVentanaVuelveADondeSeDejo) {
-  quitarAcercaDe();
-  vista("frmMain")->resize(1200, 900);
-  alAbrir("Form14");
-  QWidget* marco = programa.sistema.marco("Form14");
-  const QRect dejada(QPoint(11, 7), marco->size() + QSize(30, 20));
-  marco->setGeometry(dejada);
-  cerrarConLaX("Form14");
-  EXPECT_EQ(alAbrir("Form14"), dejada);
-  cerrarConLaX("Form14");
-  DialogosGuion cajas;
-  Programa otra(cajas);
-  otra.aplicacion.mostrar("frmMain");
-  otra.sistema.vista("frmMain")->resize(1200, 900);
-  QTest::qWait(10);
-  otra.aplicacion.mostrar("Form14");
-  EXPECT_EQ(otra.sistema.marco("Form14")->geometry(), dejada);
-}
-
 TEST_F(Lugares, UnDibujoVuelveASuVistaEnLaSiguienteSesion) {
   const auto dibujo = [](Programa& p) { return dynamic_cast<MarcoDibujo*>(p.aplicacion.cargada("Form3")); };
   const auto abierto = [&](Programa& p, const char* ejemplo) {

@@ -1,11 +1,9 @@
 #include <QListWidget>
 #include <QMdiSubWindow>
-#include <QMenu>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
 
-#include "apoyo/carpeta_prueba.h"
 #include "qt/cadena.h"
 #include "qt/escritorio.h"
 
@@ -51,29 +49,16 @@ TEST_F(Manual, F1LoAbreEnElCapituloDeLaVentanaYEscVuelveAlCampo) {
   vista("FormManual")->findChild<QLineEdit*>()->setText("Vedernikov");
   tecla(Qt::Key_F3);
   EXPECT_EQ(deQt(texto->textCursor().selectedText()), "Vedernikov");
+  vista("FormManual")->findChild<QLineEdit*>()->setText("Froude");
+  tecla(Qt::Key_F3);
+  const int primero = texto->textCursor().position();
+  tecla(Qt::Key_F3);
+  EXPECT_GT(texto->textCursor().position(), primero);
+  tecla(Qt::Key_F3, Qt::ShiftModifier);
+  EXPECT_EQ(texto->textCursor().position(), primero);
   tecla(Qt::Key_Escape);
   EXPECT_EQ(vista("FormManual"), nullptr);
   EXPECT_TRUE(campo("Form10", "Text8")->hasFocus());
-}
-
-TEST_F(Manual, UnEjemploSeAbreComoCopia) {
-  const CarpetaPrueba carpeta;
-  elegir("frmMain", "mncaidavertical");
-  QMenu* ejemplos = nullptr;
-  for (QMenu* m : vista("Form16")->findChildren<QMenu*>())
-    if (m->title() == "&Ejemplos") ejemplos = m;
-  ASSERT_NE(ejemplos, nullptr);
-  emit ejemplos->aboutToShow();
-  ASSERT_EQ(ejemplos->actions().size(), 4);
-  EXPECT_EQ(deQt(ejemplos->actions()[2]->text()), "23  Caudal pequeño, ventilado con tubos");
-  ejemplos->actions()[2]->trigger();
-  EXPECT_EQ(campo("Form16", "Text5")->text(), "0.25");
-  dialogos.guarda(carpeta.en("propio.cvv"));
-  elegir("Form16", "mnguardar");
-  EXPECT_EQ(dialogos.ultimasOpciones.sugerido, "Copia de 23-vertical-tubos.cvv");
-  campo("Form16", "Text5")->setText("0.26");
-  elegir("Form16", "mnguardar");  // it has a file of its own now
-  EXPECT_TRUE(carpeta.leer("propio.cvv").starts_with("0.26\r\n"));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The whole program on the desktop: windows that come, go and come back, boxes.
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
 #include <QMdiArea>
 #include <QMessageBox>
 #include <QPointer>
@@ -9,39 +10,14 @@
 #include <QTest>
 #include <QTimer>
 
+#include "apoyo/carpeta_prueba.h"
 #include "escritorio.h"
-#include "plataforma/ventana_datos.h"
 #include "qt/cadena.h"
 #include "qt/dialogos_qt.h"
 #include "qt/textos_es.h"
 
 namespace calvento {
 namespace {
-
-TEST_F(EnElEscritorio, EscCierraTodoMenosLosDisenos) {
-  quitarAcercaDe();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(vista("frmMain")));
-  for (const char* diseno :
-       {"21-vertical-sin-obstaculos.cvv", "11-inclinada-rectangular.cvi", "07-salto-bajo-usbr-i.cvr"})
-    abrirEjemplo(diseno);
-  dialogos.tolera(DialogosGuion::Clase::fallo);  // results of the others with the record of the chute
-  int cerradas = 0;
-  for (const VentanaUi& diseno : ventanasUi()) {
-    if (diseno.puesto == Acomodo::principal) continue;
-    const std::string nombre(diseno.nombre);
-    programa.aplicacion.mostrar(nombre);
-    QTest::qWait(5);
-    const QWidget* marco = programa.sistema.marco(nombre);
-    if (marco == nullptr) continue;  // it could not be loaded
-    QTest::keyClick(QApplication::focusWindow(), Qt::Key_Escape);
-    QTest::qWait(5);
-    const bool deDatos = dynamic_cast<VentanaDatos*>(programa.aplicacion.cargada(nombre)) != nullptr;
-    marco = programa.sistema.marco(nombre);
-    EXPECT_EQ(marco != nullptr && marco->isVisible(), deDatos) << nombre;
-    if (!deDatos) ++cerradas;
-  }
-  EXPECT_GT(cerradas, 18);
-}
 
 TEST_F(EnElEscritorio, ArrancaEnLaPantallaConElAcercaDeYLoCierra) {
   const QWidget* v = vista("frmMain");
@@ -54,7 +30,11 @@ TEST_F(EnElEscritorio, ArrancaEnLaPantallaConElAcercaDeYLoCierra) {
   QTest::qWait(0);
   EXPECT_TRUE(acerca.isNull());
   elegir("frmMain", "mnacerca");
-  EXPECT_TRUE(vista("frmAbout")->isVisible());
+  ASSERT_TRUE(QTest::qWaitForWindowActive(vista("frmAbout")));
+  QTest::qWait(5);
+  QTest::keyClick(QApplication::focusWindow(), Qt::Key_Escape);
+  QTest::qWait(5);
+  EXPECT_EQ(vista("frmAbout"), nullptr);
 }
 
 TEST_F(EnElEscritorio, LaVentanaCrecidaCabeOSeRecorre) {
@@ -84,25 +64,65 @@ TEST_F(EnElEscritorio, LoAplazadoNoCorreDentroDeOtroBucle) {
   EXPECT_TRUE(corrio);
 }
 
-TEST(Cajas, LaPreguntaEnEspanolSeContesta) {
+TEST(Cajas, HablanEspanolYSeContestan) {
   instalarTextosEspanoles(*qApp);
-  DialogosQt dialogos;
-  for (const char* respuesta : {"Sí", "No"}) {
-    QStringList textos;
+  DialogosQt d;
+  const std::string texto = "¿Continuar? <b>&</b>";
+  const auto pregunta = [&] { return d.pregunta(texto) ? "sí" : "no"; };
+  const auto vista = [&](const char* pulsa, const std::function<const char*()>& caja) {
+    QString vio;
     QTimer::singleShot(0, [&] {
-      auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      ASSERT_NE(caja, nullptr);
-      EXPECT_EQ(caja->text(), "¿Continuar? <b>&</b>");
-      for (QAbstractButton* b : caja->buttons()) {
-        textos << b->text();
-        if (b->text() == QString::fromUtf8(respuesta)) QTest::mouseClick(b, Qt::LeftButton);
+      auto* c = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(c, nullptr);
+      EXPECT_EQ(c->text() + c->windowTitle(), aQt(texto) + "Calvento");
+      EXPECT_EQ(c->textFormat(), Qt::PlainText);
+      QAbstractButton* cual = c->defaultButton();
+      vio = QString::number(c->icon()) + " *" + cual->text();
+      for (QAbstractButton* b : c->buttons()) {
+        if (b != c->defaultButton()) vio += " " + b->text();
+        if (b->text() == QLatin1String(pulsa)) cual = b;
       }
+      *pulsa == '\0' ? QTest::keyClick(c, Qt::Key_Escape) : QTest::mouseClick(cual, Qt::LeftButton);
     });
-    EXPECT_EQ(dialogos.pregunta("¿Continuar? <b>&</b>"), std::string(respuesta) == "Sí");
-    EXPECT_EQ(textos.size(), 2);
-  }
+    const char* respuesta = caja();
+    return deQt(vio) + ": " + respuesta;
+  };
+  EXPECT_EQ(vista("Aceptar", [&] { return d.aviso(texto), ""; }), "1 *Aceptar: ");
+  EXPECT_EQ(vista("", [&] { return d.fallo(texto), ""; }), "2 *Aceptar: ");
+  EXPECT_EQ(vista("Sí", pregunta), "2 *Sí No: sí");
+  EXPECT_EQ(vista("No", pregunta), "2 *Sí No: no");
+  EXPECT_EQ(vista("", pregunta), "2 *Sí No: no");
   EXPECT_EQ(QCoreApplication::translate("QWidgetTextControl", "&Paste"), "&Pegar");
   EXPECT_EQ(QCoreApplication::translate("QShortcut", "Ctrl"), "Ctrl");
+}
+
+TEST(Cajas, LaDeArchivosOfreceLoSugerido) {
+  const CarpetaPrueba carpeta;
+  carpeta.escribir("uno.cvr", "");
+  DialogosQt d;
+  const auto pedir = [&](bool guardar, const char* nombre, Qt::Key tecla) {
+    QString vio;
+    QTimer::singleShot(0, [&] {
+      auto* c = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(c, nullptr);
+      auto* campo = c->findChild<QLineEdit*>("fileNameEdit");
+      vio = c->windowTitle() + " " + c->nameFilters().join(',') + " " + campo->text() + ": ";
+      for (const auto rotulo : {QFileDialog::LookIn, QFileDialog::FileName, QFileDialog::FileType, QFileDialog::Accept,
+                                QFileDialog::Reject})
+        vio += c->labelText(rotulo) + " ";
+      QTest::keyClick(campo, tecla);
+    });
+    OpcionesArchivo o{"Proyecto", "cvr", "Rápidas(*.CVR)|*.cvr", nombre};
+    const auto ruta = guardar ? d.guardarArchivo(o) : d.abrirArchivo(o);
+    return deQt(vio) + (ruta ? std::filesystem::path(*ruta).filename().string() : "nada");
+  };
+  const std::string caja = "Proyecto Rápidas(*.CVR) (*.cvr *.CVR) ";
+  const std::string rotulos = ": Buscar en: &Nombre de archivo: Tipo: ";
+  EXPECT_EQ(pedir(true, "dos", Qt::Key_Return), caja + "dos" + rotulos + "Guardar Cancelar dos.cvr");
+  EXPECT_EQ(pedir(true, "uno.cvr", Qt::Key_Return), caja + "uno.cvr" + rotulos + "Guardar Cancelar uno.cvr")
+      << "the program itself asks whether it is replaced";
+  EXPECT_EQ(pedir(false, "uno.cvr", Qt::Key_Return), caja + "uno.cvr" + rotulos + "Abrir Cancelar uno.cvr");
+  EXPECT_EQ(pedir(false, "uno.cvr", Qt::Key_Escape), caja + "uno.cvr" + rotulos + "Abrir Cancelar nada");
 }
 
 TEST(Cajas, ArchivosConSuFiltro) {

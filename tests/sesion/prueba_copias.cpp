@@ -41,12 +41,19 @@ struct CopiasDeSeguridad : testing::Test {
 };
 
 TEST_F(CopiasDeSeguridad, WhatWasLeftComesBackWhole) {
-  dejar(a, trabajo("2.5", "Ñuble [*].cvr"));
+  Trabajo t = trabajo("2.5", "Ñuble [*].cvr");
+  t.archivo = "/a\\b/Ñuble [*].cvr";
+  t.calculado = true;
+  dejar(a, t);
   const std::vector<Copia> lista = programa("b").lista(formatoRapida);
   ASSERT_EQ(lista.size(), 1U);
   EXPECT_EQ(lista[0].nombre, "Ñuble [*].cvr");
   EXPECT_EQ(lista[0].hora, Copias::Hora(1'700'000'000s));
-  EXPECT_EQ(programa("b").leer(formatoRapida, lista[0].id).contenido, trabajo("2.5").contenido);
+  const Trabajo vuelto = programa("b").leer(formatoRapida, lista[0].id);
+  EXPECT_EQ(vuelto.contenido, t.contenido);
+  EXPECT_EQ(vuelto.nombre + vuelto.archivo, t.nombre + t.archivo);
+  EXPECT_TRUE(vuelto.calculado);
+  EXPECT_FALSE(lista[0].abierta);
   EXPECT_TRUE(a.lista(formatoCaidaVertical).empty());
 }
 
@@ -70,11 +77,14 @@ TEST_F(CopiasDeSeguridad, TwoProgramsLeaveEachOthersCopiesAlone) {
   EXPECT_EQ(caudales(a) + caudales(b), "");  // they stand in windows
   EXPECT_FALSE(b.sinDejar(formatoRapida));
   b.soltar(formatoRapida, trabajo("1").contenido);  // saved there, still unsaved here
-  corren.erase("a");                                // killed
+  reloj += 2h;
+  corren.erase("a");  // killed
   EXPECT_EQ(caudales(b), "1 ");
   const auto perdida = b.sinDejar(formatoRapida);
   ASSERT_TRUE(perdida);
   EXPECT_EQ(perdida->caudal, "1");
+  EXPECT_EQ(perdida->hora, Copias::Hora(1'700'000'000s));
+  EXPECT_EQ(b.leer(formatoRapida, perdida->id).contenido, trabajo("1").contenido);
   EXPECT_FALSE(programa("c").sinDejar(formatoRapida)) << "told twice";
   EXPECT_EQ(caudales(b), "1 ");
 }
@@ -100,6 +110,25 @@ TEST_F(CopiasDeSeguridad, AFullDiskLeavesTheFormerCopy) {
   EXPECT_EQ(caudales(programa("b")), "3 ");
 }
 #endif
+
+TEST_F(CopiasDeSeguridad, OfABrokenWritingNothingStays) {
+  dejar(a, trabajo("1"));
+  namespace fs = std::filesystem;
+#ifndef _WIN32
+  EXPECT_EQ(fs::status(carpeta.en("copias")).permissions(), fs::perms::owner_all) << "nobody else reads it";
+#endif
+  for (const char* resto : {"viejo.tmp~", "viejo.cvr.datos", "joven.tmp~", "joven.cvr.datos"}) {
+    const std::string archivo = carpeta.escribir(std::string("copias/") + resto, "");
+    const auto edad = resto[0] == 'v' ? 61min : 59min;
+    fs::last_write_time(archivo, fs::file_time_type::clock::now() - edad);
+  }
+  dejar(a, trabajo("2"));
+  std::string restos;
+  for (const char* r : {"viejo.tmp~", "viejo.cvr.datos", "joven.tmp~", "joven.cvr.datos"})
+    if (fs::exists(carpeta.en(std::string("copias/") + r))) restos += r + std::string(" ");
+  EXPECT_EQ(restos, "joven.tmp~ joven.cvr.datos ") << "another program may be writing them";
+  EXPECT_EQ(caudales(a), "2 1 ");
+}
 
 TEST_F(CopiasDeSeguridad, ACopyWithoutItsTextOrWithADamagedOneIsStillListed) {
   dejar(a, trabajo("7"));
