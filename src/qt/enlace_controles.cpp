@@ -118,7 +118,6 @@ Enlace::Refresco Enlace::unir(Control& control) {
 Enlace::Refresco Enlace::comunes(Control& control, QWidget& widget) {
   controlDe_.insert(&widget, &control);
   widget.installEventFilter(this);
-  if (control.MouseMove) widget.setMouseTracking(true);
   // the palette is written only when a colour has changed: it repaints everything. What was painted last is shared by
   // all copies of the function.
   struct Pintado {
@@ -180,12 +179,10 @@ Enlace::Refresco Enlace::unirCampo(TextBox& campo) {
   };
 }
 
+/// What only the program writes.
 Enlace::Refresco Enlace::unirTextoLargo(TextBox& campo, QPlainTextEdit& editor) {
-  connect(&editor, &QPlainTextEdit::textChanged, this,
-          [this, &campo, &editor] { atender([&] { campo.Text = deQt(editor.toPlainText()); }); });
   return [&campo, &editor, comun = comunes(campo, editor)] {
     comun();
-    const QSignalBlocker callado(editor);
     if (editor.toPlainText() != aQt(campo.Text.valor())) editor.setPlainText(aQt(campo.Text.valor()));
   };
 }
@@ -263,7 +260,6 @@ Enlace::Refresco Enlace::unirMenu(Menu& menu) {
   if (auto* submenu = widgetDe<QMenu>(menu)) accion = submenu->menuAction();
   if (accion == nullptr) return {};
   controlDe_.insert(accion, &menu);
-  if (menu.Checked) accion->setCheckable(true);
   connect(accion, &QAction::triggered, this, [this, &menu, accion] {
     accion->setChecked(menu.Checked);  // the mark is the program's to set
     atender(menu.Click);
@@ -271,7 +267,6 @@ Enlace::Refresco Enlace::unirMenu(Menu& menu) {
   return [&menu, accion] {
     accion->setEnabled(menu.Enabled);
     accion->setVisible(menu.Visible);
-    if (menu.Checked) accion->setCheckable(true);
     accion->setChecked(menu.Checked);
   };
 }
@@ -310,6 +305,7 @@ Enlace::Refresco Enlace::unirEstado(StatusBar& estado) {
   auto* segundo = new QToolButton(barra);
   segundo->setObjectName(aQt(estado.nombre() + "_panel2"));
   segundo->setAutoRaise(true);
+  segundo->setToolButtonStyle(Qt::ToolButtonTextOnly);  // as high without a text as with one
   segundo->setFocusPolicy(Qt::TabFocus);
   segundo->setToolTip(QStringLiteral("Ver las comprobaciones en la memoria de cálculo"));
   // its place is kept while it is hidden, so that the first result moves nothing above it

@@ -167,7 +167,6 @@ void Resguardo::alCoincidir(Vigilada& v) {
   v.copiada.reset();
   v.sucia = false;
   sinFallo(v, [&] { copias_.soltar(v.ventana->formato(), *v.base); });
-  if (v.vista) v.vista->setWindowModified(false);
   if (!v.ventana->archivo().empty()) anotarReciente(*v.ventana);
 }
 

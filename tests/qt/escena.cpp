@@ -165,6 +165,7 @@ void Escena::tecla(const std::string& cual) {
   }
   const QKeyCombination k = QKeySequence(aQt(cual))[0];
   QTest::keyClick(w, k.key(), k.keyboardModifiers());
+  if (k.keyboardModifiers() & Qt::ControlModifier) QTest::keyRelease(w, Qt::Key_Control);
 }
 
 /// Clicks on a menu of a menu bar, on an entry of the menu that is down, or on a row of a table, 0 its heading.

@@ -1,9 +1,9 @@
 #include <cstring>
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QTemporaryDir>
 
+#include "qt/aplicacion_qt.h"
 #include "qt/letras.h"
 #include "qt/tecleo.h"
 
@@ -17,7 +17,7 @@ int main(int argc, char** argv) {
   qputenv("CALVENTO_DATOS", casa.path().toLocal8Bit());
   testing::InitGoogleTest(&argc, argv);
   calvento::anunciarLetras();
-  QApplication aplicacion(argc, argv);
-  calvento::cargarLetras();
+  calvento::AplicacionQt aplicacion(argc, argv);
+  aplicacion.alFallar = [](const std::string& texto) { ADD_FAILURE() << texto; };
   return RUN_ALL_TESTS();
 }

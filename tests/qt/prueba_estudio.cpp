@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiSubWindow>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTableView>
@@ -73,6 +74,8 @@ TEST_F(VentanaDeEstudio, CalculaOrdenaYUsaUnDiseno) {
   tabla().selectRow(1);
   const std::string y1 = celda(1, 2);
   pulsar("Usar este diseño");
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] { return vista("frmMain")->findChild<QMdiArea*>()->activeSubWindow()->widget() == vista("Form10"); }));
   EXPECT_EQ(campo("Form10", "Text10")->text(), "1.8");
   EXPECT_NEAR(std::stod(y1), programa.aplicacion.estado.y1.valor(), 0.0006);
 }

@@ -59,6 +59,9 @@ TEST_F(Manual, F1LoAbreEnElCapituloDeLaVentanaYEscVuelveAlCampo) {
   tecla(Qt::Key_Escape);
   EXPECT_EQ(vista("FormManual"), nullptr);
   EXPECT_TRUE(campo("Form10", "Text8")->hasFocus());
+  tecla(Qt::Key_F1);
+  emit vista("FormManual")->findChild<QTextBrowser*>()->anchorClicked(QUrl("../ejemplos/09-diseno-del-manual.cvr"));
+  EXPECT_EQ(campo("Form10", "Text5")->text(), "1.6");
 }
 
 }  // namespace

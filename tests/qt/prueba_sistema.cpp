@@ -2,6 +2,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileOpenEvent>
 #include <QMdiArea>
 #include <QMessageBox>
 #include <QPointer>
@@ -12,9 +13,9 @@
 
 #include "apoyo/carpeta_prueba.h"
 #include "escritorio.h"
+#include "qt/aplicacion_qt.h"
 #include "qt/cadena.h"
 #include "qt/dialogos_qt.h"
-#include "qt/textos_es.h"
 
 namespace calvento {
 namespace {
@@ -24,6 +25,8 @@ TEST_F(EnElEscritorio, ArrancaEnLaPantallaConElAcercaDeYLoCierra) {
   const QSize conBordesYTitulo = v->size() + QSize(10, 38);
   EXPECT_TRUE(v->screen()->availableGeometry().contains(QRect(v->pos(), conBordesYTitulo)));
   EXPECT_TRUE(vista("frmAbout")->isVisible());
+  const QPoint lejos = vista("frmAbout")->geometry().center() - v->screen()->availableGeometry().center();
+  EXPECT_LE(lejos.manhattanLength(), 8) << "in the middle";
   EXPECT_EQ(vista("Form14"), nullptr) << "made before it is shown";
   QPointer<QMainWindow> acerca = vista("frmAbout");
   QTest::mouseClick(acerca->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
@@ -37,15 +40,12 @@ TEST_F(EnElEscritorio, ArrancaEnLaPantallaConElAcercaDeYLoCierra) {
   EXPECT_EQ(vista("frmAbout"), nullptr);
 }
 
-TEST_F(EnElEscritorio, LaVentanaCrecidaCabeOSeRecorre) {
-  vista("frmMain")->resize(500, 400);
-  programa.aplicacion.mostrar("Form14");
-  QTest::qWait(0);
-  const QWidget* marco = programa.sistema.marco("Form14");
-  EXPECT_GE(marco->width(), vista("Form14")->minimumSizeHint().width());
-  EXPECT_EQ(vista("frmMain")->findChild<QMdiArea*>()->horizontalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
-  EXPECT_GE(marco->x(), 0);
-  EXPECT_GE(marco->y(), 0);
+TEST_F(EnElEscritorio, SalirYCerrarLaVentanaPrincipalTerminan) {
+  for (const bool porElMenu : {false, true}) {
+    QTimer::singleShot(0, [&] { porElMenu ? elegir("frmMain", "mnsalir") : cerrarConLaX("frmMain"); });
+    QTimer::singleShot(2000, &programa.sistema, [] { QCoreApplication::exit(1); });
+    EXPECT_EQ(QCoreApplication::exec(), 0) << porElMenu;
+  }
 }
 
 TEST_F(EnElEscritorio, LoAplazadoNoCorreDentroDeOtroBucle) {
@@ -64,25 +64,36 @@ TEST_F(EnElEscritorio, LoAplazadoNoCorreDentroDeOtroBucle) {
   EXPECT_TRUE(corrio);
 }
 
+TEST(Cajas, LoQueFallaEnUnSucesoSeDiceYUnArchivoDelSistemaSeAbre) {
+  auto& a = dynamic_cast<AplicacionQt&>(*qApp);
+  std::string dicho;
+  const auto antes = std::exchange(a.alFallar, [&](const std::string& texto) { dicho += texto; });
+  QTimer::singleShot(0, [] { throw std::runtime_error("roto, "); });
+  QTest::qWait(5);
+  a.alFallar = antes;
+  a.alAbrirArchivo = [&](const std::string& archivo) { dicho += archivo; };
+  QFileOpenEvent pedido(QStringLiteral("/obra/ñ.cvr"));
+  QCoreApplication::sendEvent(qApp, &pedido);
+  a.alAbrirArchivo = nullptr;
+  EXPECT_EQ(dicho, "roto, /obra/ñ.cvr");
+}
+
 TEST(Cajas, HablanEspanolYSeContestan) {
-  instalarTextosEspanoles(*qApp);
   DialogosQt d;
   const std::string texto = "¿Continuar? <b>&</b>";
   const auto pregunta = [&] { return d.pregunta(texto) ? "sí" : "no"; };
-  const auto vista = [&](const char* pulsa, const std::function<const char*()>& caja) {
+  const auto vista = [&](const QString& pulsa, const std::function<const char*()>& caja) {
     QString vio;
     QTimer::singleShot(0, [&] {
       auto* c = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       ASSERT_NE(c, nullptr);
       EXPECT_EQ(c->text() + c->windowTitle(), aQt(texto) + "Calvento");
       EXPECT_EQ(c->textFormat(), Qt::PlainText);
-      QAbstractButton* cual = c->defaultButton();
-      vio = QString::number(c->icon()) + " *" + cual->text();
-      for (QAbstractButton* b : c->buttons()) {
-        if (b != c->defaultButton()) vio += " " + b->text();
-        if (b->text() == QLatin1String(pulsa)) cual = b;
-      }
-      *pulsa == '\0' ? QTest::keyClick(c, Qt::Key_Escape) : QTest::mouseClick(cual, Qt::LeftButton);
+      vio = QString::number(c->icon());
+      for (QAbstractButton* b : c->buttons()) vio += (b == c->defaultButton() ? " *" : " ") + b->text();
+      for (QAbstractButton* b : c->buttons())
+        if (b->text() == pulsa) return QTest::mouseClick(b, Qt::LeftButton);
+      QTest::keyClick(c, Qt::Key_Escape);
     });
     const char* respuesta = caja();
     return deQt(vio) + ": " + respuesta;
@@ -90,8 +101,7 @@ TEST(Cajas, HablanEspanolYSeContestan) {
   EXPECT_EQ(vista("Aceptar", [&] { return d.aviso(texto), ""; }), "1 *Aceptar: ");
   EXPECT_EQ(vista("", [&] { return d.fallo(texto), ""; }), "2 *Aceptar: ");
   EXPECT_EQ(vista("Sí", pregunta), "2 *Sí No: sí");
-  EXPECT_EQ(vista("No", pregunta), "2 *Sí No: no");
-  EXPECT_EQ(vista("", pregunta), "2 *Sí No: no");
+  for (const char* no : {"No", ""}) EXPECT_EQ(vista(no, pregunta), "2 *Sí No: no");
   EXPECT_EQ(QCoreApplication::translate("QWidgetTextControl", "&Paste"), "&Pegar");
   EXPECT_EQ(QCoreApplication::translate("QShortcut", "Ctrl"), "Ctrl");
 }
@@ -106,6 +116,7 @@ TEST(Cajas, LaDeArchivosOfreceLoSugerido) {
       auto* c = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
       ASSERT_NE(c, nullptr);
       auto* campo = c->findChild<QLineEdit*>("fileNameEdit");
+      EXPECT_GE(c->width(), 760) << "no column is cut";
       vio = c->windowTitle() + " " + c->nameFilters().join(',') + " " + campo->text() + ": ";
       for (const auto rotulo : {QFileDialog::LookIn, QFileDialog::FileName, QFileDialog::FileType, QFileDialog::Accept,
                                 QFileDialog::Reject})
