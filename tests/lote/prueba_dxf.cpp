@@ -62,8 +62,13 @@ Dxf exportado(Sesion& s) {
 
 void comprobarMedidas(const Dxf& dxf, const Json& deben) {
   std::vector<double> medidas;
-  for (const auto& p : dxf.de("DIMENSION", "TEXT"))
-    medidas.push_back(p.size() < 4 ? 0 : std::hypot(p[2].x - p[3].x, p[2].y - p[3].y));
+  for (const auto& p : dxf.de("DIMENSION", "TEXT")) {
+    ASSERT_GE(p.size(), 4U);
+    const Punto u{p[3].x - p[2].x, p[3].y - p[2].y}, t{2 * p[1].x - p[2].x - p[3].x, 2 * p[1].y - p[2].y - p[3].y};
+    medidas.push_back(std::hypot(u.x, u.y));
+    EXPECT_NEAR(t.x * u.x + t.y * u.y, 0, 1e-3 * medidas.back()) << "its text stands over its middle";
+    EXPECT_LT(std::hypot(t.x, t.y) / 2, 2) << "and near it";
+  }
   for (const Json& debe : deben["cotas"]) {
     const auto m = std::find_if(medidas.begin(), medidas.end(),
                                 [&](double x) { return std::fabs(x - debe.get<double>()) < 1e-3; });
