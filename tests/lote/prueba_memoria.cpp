@@ -1,4 +1,6 @@
 // The design report as a document: what can be told without a page.
+#include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -46,6 +48,46 @@ TEST(Memoria, NoTextOfASheetIsTooSmallNorLeavesIt) {
         }
   });
   EXPECT_GE(laminasVistas, 8 * 4 + 8 * 2);
+}
+
+TEST(Memoria, TheProfileGoesFromCanalToCanalThroughTheBasin) {
+  int graficos = 0;
+  porCadaEjemplo([&](const Diseno& diseno, const Documento&) {
+    const Figura figura = graficoPerfil(diseno);
+    std::vector<std::vector<Punto>> lineas;  // energy, water, bed; then those of the legend
+    for (const Primitiva& p : std::get<Lienzo>(figura.dibujo).primitivas())
+      if (const auto* l = std::get_if<PrimPolilinea>(&p); l != nullptr && l->puntos.size() > 2)
+        lineas.push_back(l->puntos);
+    ASSERT_EQ(lineas.size(), 3U);
+    const DesignState& e = diseno.e;
+    const auto num = [](Single x) { return static_cast<double>(x.valor()); };
+    const double y = num(e.ynAbajo), abajo = num(e.cotaAbajo);
+    const double v = num(e.Q) / (y * (num(e.bAbajo) + num(e.zAbajo) * y));
+    EXPECT_NEAR(lineas[0].back().y, abajo + y + v * v / 19.62, 2e-3);
+    EXPECT_NEAR(lineas[1].back().y, abajo + y, 1e-6);
+    EXPECT_NEAR(lineas[2].back().y, abajo, 1e-6);
+    const auto masBajo = std::ranges::min(lineas[2], {}, &Punto::y);
+    EXPECT_NEAR(masBajo.y, num(e.cotaPoza), 1e-6);
+    EXPECT_EQ(lineas[1].front().x, lineas[2].front().x);
+    EXPECT_NEAR(lineas[1].front().y - lineas[2].front().y,
+                num(diseno.vertical() ? e.perfilCaida.back().tirante : e.ynArriba), 1e-6);
+    for (const auto& l : lineas) EXPECT_TRUE(std::ranges::is_sorted(l, {}, &Punto::x));
+    for (const FilaPerfil& f : e.perfil)
+      EXPECT_TRUE(!diseno.rapida() || std::ranges::any_of(lineas[1], [&](const Punto& p) {
+        return std::hypot(p.x - num(f.x), p.y - num(f.cota) - num(f.tirante)) < 1e-6;
+      }));
+    const auto sobre = [&](double tirante) {  // the surface's point over the basin's floor
+      return std::ranges::find_if(lineas[1],
+                                  [&](const Punto& p) { return std::abs(p.y - num(e.cotaPoza) - tirante) < 1e-6; });
+    };
+    const auto a = sobre(num(e.y1)), b = sobre(num(e.y2));
+    ASSERT_TRUE(a != lineas[1].end() && b != lineas[1].end());
+    if (!diseno.vertical()) {
+      EXPECT_NEAR(b->x - a->x, num(e.longPoza), 1e-4);
+    }
+    ++graficos;
+  });
+  EXPECT_GE(graficos, 17);
 }
 
 TEST(Memoria, EnlargedTextsDoNotLieOnEachOther) {
