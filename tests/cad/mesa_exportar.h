@@ -32,6 +32,4 @@ struct MesaExportar {
   std::vector<double> avances;
 };
 
-using Contornos = std::vector<std::vector<Punto>>;
-
 }  // namespace calvento

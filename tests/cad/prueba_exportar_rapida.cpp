@@ -28,51 +28,34 @@ TEST(ExportarRapida, AsksForConnectionAndLayersBeforeItSends) {
                                       "capa TEXT 1", "capa TIRANTE 4", "capa LGRADIENTE 3", "entidades", "soltar"}));
 }
 
-TEST(ExportarRapida, GridIsInWholeMetresWithItsEdgesTwice) {
-  MesaRapida m;
-  m.exportar();
-  // stations 1000 - 4 - 5 to 1034.875 + 3 + 5, elevations 102.75 and 110 to whole metres and one metre more
-  const auto lineas = m.cad.de("GRID", Clase::linea);
-  ASSERT_EQ(lineas.size(), 10u + 1 + 11 + 1);
-  for (std::size_t i = 0; i < 10; ++i)
-    EXPECT_EQ(lineas[i].puntos,
-              (std::vector<Punto>{{991, 102.0 + static_cast<double>(i)}, {1043, 102.0 + static_cast<double>(i)}}));
-  EXPECT_EQ(lineas[10].puntos, lineas[9].puntos) << "steps that end on the edge draw it twice";
-  EXPECT_EQ(lineas[11].puntos, (std::vector<Punto>{{991, 102}, {991, 111}}));
-  EXPECT_EQ(lineas[21].puntos, (std::vector<Punto>{{1041, 102}, {1041, 111}}));
-  EXPECT_EQ(lineas[22].puntos, (std::vector<Punto>{{1043, 102}, {1043, 111}}));
-
-  const auto textos = m.cad.de("TEXT", Clase::texto);
-  EXPECT_EQ(textos[0].texto, "102.00");
-  EXPECT_EQ(textos[0].puntos, (std::vector<Punto>{{990, 102}}));
-  EXPECT_EQ(textos[0].giro, 0);
-  EXPECT_EQ(textos[9].texto, "111.00");
-  EXPECT_EQ(textos[10].texto, "0+991");
-  EXPECT_EQ(textos[10].puntos, (std::vector<Punto>{{991, 102}}));
-  EXPECT_EQ(textos[10].giro, 1.57075) << "a right angle by the short pi";
-  EXPECT_EQ(textos[20].texto, "1+041");
+/// The entities "GRID linea", or all of them.
+std::vector<CadGrabado::Entidad> cuales(const CadGrabado& cad, const std::string& que) {
+  const std::map<std::string, Clase> clases = {{"texto", Clase::texto},
+                                               {"linea", Clase::linea},
+                                               {"polilinea", Clase::polilinea},
+                                               {"circulo", Clase::circulo},
+                                               {"cota", Clase::cota}};
+  const auto palabras = partido(que, ' ');
+  return palabras[0] == "entidades" ? cad.entidades : cad.de(palabras[0], clases.at(palabras[1]));
 }
 
-TEST(ExportarRapida, ProgressGoesByTheGridAndThenByTheParts) {
+TEST(ExportarRapida, SendsWhatTheTableTells) {
   MesaRapida m;
   m.exportar();
-  const std::vector<double> esperados = {0,                                                         // bar shown
-                                         0,    3.3,  6.7,  10,   13.3, 16.7, 20,   23.3, 26.7, 30,  // nine metres
-                                         30,   33.8, 37.7, 41.5, 45.4, 49.2, 53.1, 56.9, 60.8, 64.6,
-                                         68.5, 75,   80,   85,   90,   95,   97,   100};
-  std::vector<double> sinRepetir;
-  for (const double v : esperados)
-    if (sinRepetir.empty() || sinRepetir.back() != v) sinRepetir.push_back(v);
-  ASSERT_EQ(m.avances.size(), sinRepetir.size());
-  for (std::size_t i = 0; i < sinRepetir.size(); ++i) EXPECT_NEAR(m.avances[i], sinRepetir[i], 1e-9) << i;
-}
-
-/// How many entities there are of "GRID linea", or in all.
-std::size_t cuantas(const CadGrabado& cad, const std::string& cuales) {
-  const std::map<std::string, Clase> clases = {
-      {"texto", Clase::texto}, {"linea", Clase::linea}, {"polilinea", Clase::polilinea}, {"cota", Clase::cota}};
-  const auto palabras = partido(cuales, ' ');
-  return palabras[0] == "entidades" ? cad.entidades.size() : cad.de(palabras[0], clases.at(palabras[1])).size();
+  porCadaFila("cad.txt", "enviado", [&](const FilaTabla& f) {
+    const auto e = cuales(m.cad, f[0]).at(std::stoul(f[1]));
+    std::vector<double> hallados = {e.giro, e.medida};
+    for (const Punto& p : e.puntos) hallados.insert(hallados.end(), {p.x, p.y});
+    hallados.insert(hallados.end(), e.propiedades.begin(), e.propiedades.end());
+    const auto esperados = partido(f[3], ' ');
+    ASSERT_EQ(hallados.size(), esperados.size());
+    for (std::size_t i = 0; i < hallados.size(); ++i) EXPECT_NEAR(hallados[i], std::stod(esperados[i]), 1e-6) << i;
+    EXPECT_EQ(e.texto, f[2]);
+  });
+  // the grid's nine metres and eleven columns, then the parts
+  const auto pasos = tabla("cad.txt", "avance");
+  ASSERT_EQ(m.avances.size(), pasos.size());
+  for (std::size_t i = 0; i < pasos.size(); ++i) EXPECT_NEAR(m.avances[i], pasos[i].num(0), 1e-9) << i;
 }
 
 TEST(ExportarRapida, EndsAsTheTableTells) {
@@ -100,7 +83,7 @@ TEST(ExportarRapida, EndsAsTheTableTells) {
       EXPECT_LT(m.cad.entidades.size(), 100u);
     } else {
       for (const std::string& parte : partido(f[6], ';'))
-        EXPECT_EQ(cuantas(m.cad, parte), std::stoul(parte.substr(parte.rfind(' ')))) << parte;
+        EXPECT_EQ(cuales(m.cad, parte).size(), std::stoul(parte.substr(parte.rfind(' ')))) << parte;
     }
   });
 }
