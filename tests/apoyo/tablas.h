@@ -2,6 +2,7 @@
 
 #include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -45,6 +46,17 @@ inline std::vector<FilaTabla> tabla(const std::string& archivo, const std::strin
   }
   EXPECT_FALSE(filas.empty()) << "no rows of " << seccion << " in " << archivo;
   return filas;
+}
+
+inline std::vector<double> numeros(const std::string& s) {
+  std::istringstream flujo(s);
+  return {std::istream_iterator<double>(flujo), {}};
+}
+
+inline void compararNumeros(const std::vector<double>& hallados, const std::string& esperados, double margen) {
+  const std::vector<double> deben = numeros(esperados);
+  ASSERT_EQ(hallados.size(), deben.size());
+  for (std::size_t i = 0; i < deben.size(); ++i) EXPECT_NEAR(hallados[i], deben[i], margen) << i;
 }
 
 template <class F>

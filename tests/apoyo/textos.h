@@ -22,6 +22,14 @@ inline void escribirTextos(const Ventana& v, const std::string& pares) {
   });
 }
 
+/// How often a part stands in a text, whatever a line ends with on the system.
+inline std::size_t veces(std::string texto, const std::string& parte) {
+  std::erase(texto, '\r');
+  std::size_t n = 0;
+  for (std::size_t i = texto.find(parte); i != std::string::npos; i = texto.find(parte, i + 1)) ++n;
+  return n;
+}
+
 /// Expects these texts of the fields and captions of the labels.
 inline void esperarTextos(const Ventana& v, const std::string& pares) {
   porCadaTexto(pares, [&](const std::string& nombre, const std::string& texto) {

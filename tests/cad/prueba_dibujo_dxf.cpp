@@ -6,6 +6,8 @@
 #include "apoyo/carpeta_prueba.h"
 #include "apoyo/dialogos_guion.h"
 #include "apoyo/disco_lleno.h"
+#include "apoyo/tablas.h"
+#include "apoyo/textos.h"
 #include "cad/cota_dxf.h"
 #include "cad/dibujo_dxf.h"
 
@@ -14,13 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 constexpr double ninguno = std::numeric_limits<double>::quiet_NaN();
-
-std::size_t veces(std::string texto, const std::string& parte) {
-  std::erase(texto, '\r');  // lines end as they do on the system
-  std::size_t n = 0;
-  for (std::size_t i = texto.find(parte); i != std::string::npos; i = texto.find(parte, i + 1)) ++n;
-  return n;
-}
 
 /// A run of one line.
 void correr(AplicacionCad& cad) {
@@ -131,38 +126,20 @@ TEST(DibujoDxf, RefusesEntitiesThatSpoilAFile) {
   EXPECT_TRUE(d.datos().entidades.empty());
 }
 
-TEST(CotaDxf, LineIsBrokenByItsTextAndTheArrowsLieInside) {
-  const DibujoCota d = dibujarCota({{0, 5}, {4, 5}, {2, 4.6}, 0.075, 0.075, 0.2, 0.1, 0});
-  EXPECT_EQ(d.medida, 4);
-  EXPECT_EQ(d.texto.texto, "4");
-  EXPECT_EQ(d.texto.giro, 0);
-  EXPECT_NEAR(d.enLinea.x, 4, 1e-12);
-  EXPECT_NEAR(d.enLinea.y, 4.6, 1e-12);
-  ASSERT_EQ(d.lineas.size(), 4u);  // two extension lines, two pieces of the dimension line
-  EXPECT_NEAR(d.lineas[0].a.y, 4.8, 1e-12);
-  EXPECT_NEAR(d.lineas[0].b.y, 4.525, 1e-12);
-  EXPECT_NEAR(d.lineas[2].a.x, 0, 1e-12);
-  EXPECT_LT(d.lineas[2].b.x, 2);
-  EXPECT_NEAR(d.lineas[2].b.x + d.lineas[3].a.x, 4, 1e-12) << "the room is even on both sides";
-  ASSERT_EQ(d.flechas.size(), 2u);
-  EXPECT_NEAR(d.flechas[0].izquierda.x, 0.075, 1e-12);
-  EXPECT_NEAR(d.flechas[1].izquierda.x, 4 - 0.075, 1e-12);
-}
-
-TEST(CotaDxf, AVerticalOneIsReadFromTheRightAndAShortOneHasItsArrowsOutside) {
-  for (const bool subiendo : {true, false}) {
-    const CotaDxf c{{7, subiendo ? 1.0 : 2.5}, {7, subiendo ? 2.5 : 1.0}, {7, 1.75}, 0.075, 0.075, 0.1, 0.075, 0};
-    const DibujoCota d = dibujarCota(c);
-    EXPECT_NEAR(d.texto.giro, 1.5707963, 1e-6);
-    EXPECT_EQ(d.texto.texto, "1.5");
-    EXPECT_EQ(d.lineas.size(), 2u) << "no extension lines on the measured line itself";
-  }
-  const DibujoCota corta = dibujarCota({{0, 0}, {0.1, 0}, {0.05, -0.4}, 0.075, 0.075, 0.2, 0.075, 1});
-  EXPECT_LT(corta.flechas[0].izquierda.x, 0);
-  EXPECT_GT(corta.flechas[1].izquierda.x, 0.1);
-  ASSERT_EQ(corta.lineas.size(), 5u);  // two extension lines, the whole dimension line, behind each arrow its tail
-  EXPECT_NEAR(corta.lineas[2].b.x - corta.lineas[2].a.x, 0.1, 1e-12) << "a text above breaks nothing";
-  EXPECT_EQ(dibujarCota({{3, 3}, {3, 3}, {3, 3}}).medida, 0);
+TEST(CotaDxf, LooksAsTheTableTells) {
+  porCadaFila("cad.txt", "cota", [](const FilaTabla& f) {
+    const auto n = numeros(f[0]);
+    const DibujoCota d =
+        dibujarCota({{n[0], n[1]}, {n[2], n[3]}, {n[4], n[5]}, 0.075, 0.075, n[6], n[7], static_cast<int>(n[8])});
+    EXPECT_EQ(d.texto.texto, f[1]);
+    std::vector<double> hallados = {d.texto.giro};
+    const auto puntos = [&](const std::vector<PuntoCad>& todos) {
+      for (const PuntoCad& p : todos) hallados.insert(hallados.end(), {p.x, p.y});
+    };
+    for (const LineaDxf& l : d.lineas) puntos({l.a, l.b});
+    for (const FlechaDxf& p : d.flechas) puntos({p.punta, p.izquierda, p.derecha});
+    compararNumeros(hallados, f[2] + ' ' + f[3] + ' ' + f[4], 3e-4);
+  });
 }
 
 }  // namespace

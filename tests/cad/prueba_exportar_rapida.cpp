@@ -47,15 +47,11 @@ TEST(ExportarRapida, SendsWhatTheTableTells) {
     std::vector<double> hallados = {e.giro, e.medida};
     for (const Punto& p : e.puntos) hallados.insert(hallados.end(), {p.x, p.y});
     hallados.insert(hallados.end(), e.propiedades.begin(), e.propiedades.end());
-    const auto esperados = partido(f[3], ' ');
-    ASSERT_EQ(hallados.size(), esperados.size());
-    for (std::size_t i = 0; i < hallados.size(); ++i) EXPECT_NEAR(hallados[i], std::stod(esperados[i]), 1e-6) << i;
+    compararNumeros(hallados, f[3], 1e-6);
     EXPECT_EQ(e.texto, f[2]);
   });
   // the grid's nine metres and eleven columns, then the parts
-  const auto pasos = tabla("cad.txt", "avance");
-  ASSERT_EQ(m.avances.size(), pasos.size());
-  for (std::size_t i = 0; i < pasos.size(); ++i) EXPECT_NEAR(m.avances[i], pasos[i].num(0), 1e-9) << i;
+  porCadaFila("cad.txt", "avance", [&](const FilaTabla& f) { compararNumeros(m.avances, f.escrita, 1e-9); });
 }
 
 TEST(ExportarRapida, EndsAsTheTableTells) {

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <fstream>
 
+#include "apoyo/textos.h"
 #include "lote/caso.h"
 #include "lote/corrida.h"
 #include "lote/opciones.h"
@@ -26,12 +27,6 @@ void hacerArchivo(const CarpetaPrueba& carpeta, const std::string& nombre, const
   if (s.starts_with("-> ")) return fs::create_symlink(s.substr(3), nombre);
   if (s.starts_with("= ")) return fs::create_hard_link(s.substr(2), nombre);
   carpeta.escribir(nombre, s);
-}
-
-std::size_t veces(const std::string& texto, const std::string& parte) {
-  std::size_t n = 0;
-  for (std::size_t i = texto.find(parte); i != std::string::npos; i = texto.find(parte, i + 1)) ++n;
-  return n;
 }
 
 /// Runs one in a folder where canal.cvr calculates without a word, with the files that it describes beside it.
