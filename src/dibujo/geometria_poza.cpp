@@ -31,11 +31,6 @@ void trazarSuperficiePoza(Trazo& trazo, const Valores& v, const EstacionesPoza& 
   trazo.punto(p.xSalida, v.ynAbajo + fondoAbajo(v, v.longTransSalida + canalDibujado));
 }
 
-void trazarAguaPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p) {
-  trazarSuperficiePoza(trazo, v, p);
-  trazarFondoPoza(trazo, v, p);
-}
-
 void trazarFondoPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p) {
   trazo.punto(p.xSalida, fondoAbajo(v, v.longTransSalida + canalDibujado));
   trazarPisoPoza(trazo, v, p);

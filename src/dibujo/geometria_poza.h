@@ -48,9 +48,6 @@ void trazarSuperficiePoza(Trazo& trazo, const Valores& v, const EstacionesPoza& 
 /// Bed of that water, back from the end of the figure to the end of the curve: 6 points.
 void trazarFondoPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p);
 
-/// Both of them, the surface and the way back along the bed: 23 points.
-void trazarAguaPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p);
-
 /// Upper side of the concrete from the end of the outlet transition back to the end of the curve: 5 points.
 void trazarPisoPoza(Trazo& trazo, const Valores& v, const EstacionesPoza& p);
 

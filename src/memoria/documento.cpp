@@ -34,22 +34,6 @@ void Redaccion::tabla(std::string titulo, std::vector<std::string> titulos, std:
 
 }  // namespace redaccion
 
-std::string sinMarcas(std::string_view texto) {
-  std::string s;
-  bool marca = false;
-  for (std::size_t i = 0; i < texto.size(); ++i) {
-    if ((texto[i] == '_' || texto[i] == '^') && i + 1 < texto.size() && texto[i + 1] == '{') {
-      ++i;
-      marca = true;
-    } else if (marca && texto[i] == '}') {
-      marca = false;
-    } else {
-      s += texto[i];
-    }
-  }
-  return s;
-}
-
 std::string programaYVersion() { return "Calvento " + version(); }
 
 std::string fechaDeHoy() {

@@ -89,9 +89,6 @@ struct Documento {
 /// Today as "23/11/2026".
 std::string fechaDeHoy();
 
-/// A text without its marks.
-std::string sinMarcas(std::string_view texto);
-
 /// The report of a design. `tablas` are those on which its checks were made.
 Documento redactar(const Diseno& diseno, const Comprobaciones& comprobaciones, const TablasInforme& tablas,
                    const Portada& portada);

@@ -48,19 +48,6 @@ TEST(Json, AnyTextAndNoNumberAreValid) {
   EXPECT_EQ(leido.dump(), "{\"a\\\"b\":[null,\"l1\\nl2\\t\\\\ ñ \xEF\xBF\xBD\"]}");
 }
 
-TEST(ObjetoJson, HasItsPartsInTheirOrder) {
-  const CarpetaPrueba carpeta;
-  const auto d = correr({"--json", carpeta.escribir("canal.cvr", ProyectoRapida().contenido())}).objetos().at(0);
-  const auto claves = [](const nlohmann::ordered_json& objeto) {
-    std::string todas;
-    for (const auto& [clave, valor] : objeto.items()) todas.append(todas.empty() ? "" : " ").append(clave);
-    return todas;
-  };
-  EXPECT_EQ(claves(d),
-            "version archivo estructura calculado mensajes estado perfil perfilCaida ventana reportes comprobaciones");
-  EXPECT_EQ(claves(d["ventana"]), "titulo campos etiquetas panel1 menus Grid1");
-}
-
 TEST(ObjetoJson, TakesFileNamesOfAnyBytes) {
   const CarpetaPrueba carpeta;
 #ifdef _WIN32
