@@ -15,7 +15,7 @@ namespace calvento::lote {
 namespace {
 
 /// How many random projects in all.
-int cuantos() { return cuantosAlAzar(2000, 1); }
+int cuantos() { return cuantosAlAzar(1000, 1); }
 
 /// Seconds of processor time that one project may take: opening, all presses, all windows.
 constexpr double limite = limiteSegundos(0.5, 10);

@@ -30,7 +30,7 @@ TEST(Variar, EachCombinationIsTheProjectWithThoseValues) {
 TEST(Variar, ThreadsChangeNoByte) {
   for (const Orden& forma : {Orden{"--json"}, Orden{"--csv"}, Orden{}}) {
     Orden orden = forma;
-    for (const char* a : {"--variar", "Q=0.5:8:0.5", "--variar", "ahogamiento=5:15:10"}) orden.emplace_back(a);
+    for (const char* a : {"--variar", "Q=0.5:8:1.5", "--variar", "ahogamiento=5:15:10"}) orden.emplace_back(a);
     for (const std::string& a : {rapida, std::string("no-esta.cvr"), caida, std::string("x.txt")}) orden.push_back(a);
     const Corrida uno = correr(orden);
     EXPECT_EQ(uno.estado, 2);

@@ -3,8 +3,8 @@
 
     leer_memoria.py CALVENTO-LOTE PROJECT…
 
-Each form must open, hold the chapters in their order, every field that is typed, the results and the checks of the
-design, and nothing that is no number. The page must hold line by line what contenido.txt says.
+Every report must open as a page, some in the other forms too. It must hold the chapters in their order, every field that is
+typed, the results and the checks of the design, and nothing that is no number: line by line what contenido.txt says.
 """
 
 import json
@@ -205,7 +205,9 @@ def de_odt(archivo):
 
 
 def probar(programa, proyecto, carpeta, *campos):
-    for forma, leer in (("html", de_html), ("pdf", de_pdf), ("odt", de_odt))[:1 if campos else 3]:
+    formas = (("html", de_html), ("pdf", de_pdf), ("odt", de_odt))
+    # laying out pages takes most of the time: of each structure some
+    for forma, leer in formas[:1 if campos or int(proyecto.name[:2]) % 3 else 3]:
         archivo = carpeta / f"m.{forma}"
         puestos = [x for campo in campos for x in ("--campo", campo)]
         r = subprocess.run([programa, "--json", "--memoria", archivo, *puestos, proyecto], capture_output=True, text=True)
@@ -223,7 +225,7 @@ def main():
         casos = [[p, *v] for p in sys.argv[2:] for v in [[], *(v[1:] for v in variantes if v[0] == Path(p).name[:2])]]
         for proyecto, *campos in casos:
             try:
-                probar(sys.argv[1], proyecto, Path(carpeta), *campos)
+                probar(sys.argv[1], Path(proyecto), Path(carpeta), *campos)
             except (AssertionError, subprocess.CalledProcessError, ET.ParseError, zipfile.BadZipFile) as fallo:
                 print(f"{proyecto} {campos}: {fallo}")
                 mal += 1
