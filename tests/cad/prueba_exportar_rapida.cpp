@@ -1,5 +1,4 @@
 // The chute's export against a CAD application that writes everything down, on a chute of round numbers.
-#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <map>

@@ -1,5 +1,4 @@
 // Outlines of the drawings on records of round numbers; they are data, tests/tablas/contornos.txt.
-#include <map>
 
 #include "apoyo/tablas.h"
 #include "dibujo/bloques.h"

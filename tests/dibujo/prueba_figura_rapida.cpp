@@ -31,38 +31,16 @@ std::vector<T> pintado(const DesignState& e, Rutina rutina, double altoVista = 1
 
 std::string rotulos(const DesignState& e, Rutina rutina) { return rotulados(pintado<PrimTexto>(e, rutina)); }
 
-TEST(FiguraRapida, WaterIsFilledConcreteHatchedAndControlPointsAreBlack) {
+TEST(FiguraRapida, TheFirstRoutineClearsTheCanvasAndTheLastOneLeavesASolidPen) {
   Lienzo lienzo(865, 433);
   lienzo.Scale(-10, 125, 45, 100);
   lienzo.Line({0, 0}, {1, 1});
-  const DesignState e = registro("rapida 2");
-  for (int i = 0; i < 6; ++i) (FiguraRapida(e, eje, anchoMayor).*todas[i])(lienzo);
-  EXPECT_TRUE(pintadas<PrimLinea>(lienzo).empty()) << "the canvas is cleared first";
-  const auto areas = pintadas<PrimPoligono>(lienzo);
-  ASSERT_EQ(areas.size(), 7U);  // water of both, two walls, basin, canal, canal downstream
-  for (std::size_t i = 0; i < areas.size(); ++i) {
-    EXPECT_EQ(areas[i].relleno.color, i < 2 ? color::cianClaro : color::grisClaro) << i;
-    EXPECT_EQ(areas[i].relleno.estilo, i < 2 ? EstiloRelleno::solido : EstiloRelleno::cruzadoDiagonal) << i;
-  }
-  const auto marcas = pintadas<PrimCaja>(lienzo);
-  ASSERT_EQ(marcas.size(), 9U);
-  EXPECT_TRUE(cerca(marcas[2].a, {9.98, 108.98}) && cerca(marcas[2].b, {10.02, 109.02}));
-  EXPECT_EQ(marcas[2].relleno.color, color::negro);
-}
-
-TEST(FiguraRapida, PensOfTheLinesOfTheCanal) {
-  Lienzo lienzo(865, 433);
-  lienzo.Scale(-10, 125, 45, 100);
   const DesignState e = registro("rapida");
-  FiguraRapida(e, eje, anchoMayor).DIBUJACANAL(lienzo);
+  const FiguraRapida figura(e, eje, anchoMayor);
+  figura.POLIGONO(lienzo);
+  EXPECT_TRUE(pintadas<PrimLinea>(lienzo).empty());
+  figura.DIBUJACANAL(lienzo);
   EXPECT_EQ(lienzo.DrawStyle, EstiloLinea::solida);
-  const auto polilineas = pintadas<PrimPolilinea>(lienzo);
-  EXPECT_EQ(polilineas.front().pluma.color, color::rojo);
-  EXPECT_EQ(polilineas.front().pluma.estilo, EstiloLinea::solida);
-  EXPECT_EQ(polilineas.back().pluma.estilo, EstiloLinea::guionPunto);
-  const auto lineas = pintadas<PrimLinea>(lienzo);
-  EXPECT_EQ(lineas[9].pluma.estilo, EstiloLinea::solida) << "the hatch of the ramps";
-  EXPECT_EQ(lineas[10].pluma.estilo, EstiloLinea::guionPunto);
 }
 
 TEST(FiguraRapida, LabelsThatAreLeftOut) {

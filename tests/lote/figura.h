@@ -24,12 +24,11 @@ inline bool sonLosPuntos(const std::vector<Punto>& son, const Json& deben, doubl
 }
 
 /// Takes the outline out of those that were found; a failure where it is not among them.
-inline void quitar(std::vector<std::vector<Punto>>& hay, const Json& debe, const Json& puntos, double dx = 0,
-                   bool unaVez = true) {
+inline void quitar(std::vector<std::vector<Punto>>& hay, const Json& debe, const Json& puntos, double dx = 0) {
   const auto p = std::find_if(hay.begin(), hay.end(), [&](const auto& c) { return sonLosPuntos(c, puntos, dx); });
   if (p == hay.end())
     ADD_FAILURE() << "expected " << debe << ", found nothing like it";
-  else if (unaVez)
+  else
     hay.erase(p);
 }
 
