@@ -122,8 +122,16 @@ void SistemaQt::unirTeclas(const Abierta& abierta) {
     if (QApplication::mouseButtons() == Qt::NoButton && QWidget::keyboardGrabber() == nullptr) marco.close();
   });
   if (marco.isWindow() || ventana->seOculta()) return;
-  unirTecla(marco, QKeySequence::Print, [this, ventana] { imprimir(*ventana); });
-  unirTecla(marco, QKeySequence::Copy, [this, ventana] { copiar(*ventana); });
+  // a report prints itself and a study copies its table: the same key twice would do neither
+  const auto unirLibre = [&](const QKeySequence& tecla, std::function<void()> accion) {
+    const auto atajos = marco.findChildren<QShortcut*>();
+    const auto acciones = marco.findChildren<QAction*>();
+    if (std::none_of(atajos.begin(), atajos.end(), [&](const QShortcut* s) { return s->key() == tecla; }) &&
+        std::none_of(acciones.begin(), acciones.end(), [&](const QAction* a) { return a->shortcut() == tecla; }))
+      unirTecla(marco, tecla, std::move(accion));
+  };
+  unirLibre(QKeySequence::Print, [this, ventana] { imprimir(*ventana); });
+  unirLibre(QKeySequence::Copy, [this, ventana] { copiar(*ventana); });
 }
 
 }  // namespace calvento

@@ -115,7 +115,7 @@ QWidget* VistaEstudio::hacerTabla() {
   connect(usar_, &QPushButton::clicked, this, &VistaEstudio::usarElegido);
   connect(guardar_, &QPushButton::clicked, this, &VistaEstudio::pedirTabla);
   connect(tabla_, &QTableView::activated, this, &VistaEstudio::usarElegido);
-  auto* copia = new QShortcut(QKeySequence::Copy, tabla_);
+  auto* copia = new QShortcut(QKeySequence::Copy, this);
   copia->setContext(Qt::WidgetWithChildrenShortcut);
   connect(copia, &QShortcut::activated, this, &VistaEstudio::copiar);
   return lado;

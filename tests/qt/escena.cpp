@@ -6,15 +6,21 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QPrintPreviewWidget>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
+#include <QToolTip>
+#include <QWheelEvent>
 
 #include "apoyo/cajas_escritas.h"
 #include "apoyo/tablas.h"
@@ -30,6 +36,14 @@ void pulsarWidget(QWidget& w) {
   const auto* boton = qobject_cast<QAbstractButton*>(&w);
   const bool marca = boton != nullptr && boton->isCheckable() && qobject_cast<QPushButton*>(&w) == nullptr;
   QTest::mouseClick(&w, Qt::LeftButton, {}, marca ? QPoint(8, w.height() / 2) : w.rect().center());
+}
+
+/// What stands on it, or how a screen reader calls it, as a scene writes it.
+bool seLlama(const QObject& o, const std::string& nombre) {
+  const auto llamado = [&](const char* p) {
+    return o.property(p).toString().remove(u'&').remove(u'.').replace(u' ', u'_') == aQt(nombre);
+  };
+  return llamado("accessibleName") || llamado("text");
 }
 
 }  // namespace
@@ -58,6 +72,7 @@ void Escena::arrancar() {
 
 Escena::Escena(const std::vector<std::string>& lineas) {
   qputenv("CALVENTO_DATOS", carpeta_.en("datos").c_str());
+  QObject::connect(&reloj_, &QTimer::timeout, [this] { responder(); });
   arrancar();
   for (const std::string& l : lineas) {
     SCOPED_TRACE(l);
@@ -75,6 +90,9 @@ void Escena::dar(const std::string& orden, const std::string& resto) {
   if (orden == "caja") {
     const auto k = resto.find("{}");
     prepararCaja(cajas_, k == std::string::npos ? resto : std::string(resto).replace(k, 2, carpeta_.en("")));
+  } else if (orden == "responde") {
+    respuestas_.emplace_back(primero, demas);
+    reloj_.start(10);
   } else if (orden == "tolera") {
     cajas_.tolera(resto == "fallo" ? DialogosGuion::Clase::fallo : DialogosGuion::Clase::aviso);
     if (resto == "todo") cajas_.tolera(DialogosGuion::Clase::fallo).tolera(DialogosGuion::Clase::pregunta);
@@ -115,15 +133,24 @@ void Escena::dar(const std::string& orden, const std::string& resto) {
     FAIL() << "no " << primero;
   } else if (orden == "elige") {
     auto* accion = qobject_cast<QAction*>(o);
-    accion != nullptr ? accion->trigger() : (void)o->setProperty("currentIndex", std::stoi(demas));
+    if (accion != nullptr) return accion->trigger();
+    for (const char* p : {"currentIndex", "currentRow", "currentText"}) o->setProperty(p, aQt(demas));
   } else if (orden == "llama") {
     EXPECT_TRUE(QMetaObject::invokeMethod(o, demas.c_str()));
   } else if (auto* w = qobject_cast<QWidget*>(o); orden == "enfoca") {
     w->setFocus();
+  } else if (orden == "contexto" || orden == "rueda") {
+    QWidget* dentro = qobject_cast<QAbstractScrollArea*>(w)->viewport();
+    const QPoint lugar = dentro->rect().center(), global = dentro->mapToGlobal(lugar);
+    if (orden == "contexto") return QCoreApplication::postEvent(dentro, new QContextMenuEvent({}, lugar, global));
+    QWheelEvent rueda(lugar, global, {}, {0, std::stoi(demas)}, {}, Qt::ControlModifier, {}, false);
+    QCoreApplication::sendEvent(dentro, &rueda);
   } else if (orden == "mueve") {
     const auto n = partido(demas, ' ');
     w->setGeometry(std::stoi(n.at(0)), std::stoi(n.at(1)), w->width() + std::stoi(n.at(2)),
                    w->height() + std::stoi(n.at(3)));
+  } else if (orden == "apunta") {
+    QTest::mouseMove(w);
   } else if (orden == "pulsa") {
     pulsarWidget(*w);
   } else if (orden == "pon") {
@@ -143,6 +170,27 @@ void Escena::dar(const std::string& orden, const std::string& resto) {
     FAIL() << "no such order";
   }
   QTest::qWait(5);
+}
+
+/// What the user does with the dialog or the menu that stands: a name for the file, and the button or entry so called.
+void Escena::responder() {
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  QWidget* caja = menu != nullptr ? menu : QApplication::activeModalWidget();
+  if (caja == nullptr || respuestas_.empty()) return;
+  const auto [boton, archivo] = respuestas_.front();
+  respuestas_.pop_front();
+  visto_ = deQt(caja->windowTitle() + ": " + caja->property("text").toString());
+  for (const QAction* a : menu == nullptr ? QList<QAction*>() : menu->actions()) visto_ += deQt(a->text()) + " | ";
+  if (const auto* d = qobject_cast<QFileDialog*>(caja)) visto_ += deQt(d->nameFilters().join(u' '));
+  if (const auto* d = caja->findChild<QPrintPreviewWidget*>()) visto_ += std::to_string(d->pageCount());
+  if (auto* nombre = caja->findChild<QLineEdit*>("fileNameEdit"); nombre != nullptr && !archivo.empty())
+    nombre->setText(aQt(carpeta_.en(archivo)));
+  if (boton == "cierra") return (void)QMetaObject::invokeMethod(caja, "close", Qt::QueuedConnection);
+  for (QAction* a : menu == nullptr ? QList<QAction*>() : menu->actions())
+    if (seLlama(*a, boton)) return menu->setActiveAction(a), QTest::keyClick(menu, Qt::Key_Return);
+  for (auto* b : caja->findChildren<QAbstractButton*>())
+    if (seLlama(*b, boton)) return (void)QMetaObject::invokeMethod(b, "click", Qt::QueuedConnection);
+  ADD_FAILURE() << "no " << boton;
 }
 
 /// All keys are sent to the main window, as the desktop sends them, or to the menu that is down: Qt finds who gets
@@ -212,7 +260,7 @@ void Escena::comprobar(const std::string& que) {
     const bool bien = QTest::qWaitFor(
         [&] {
           es = valor(este);
-          if (signo == "<") return std::stod(es) < std::stod(debe);
+          if (signo == "<") return std::stod(es) < std::stod(esNumero(debe) ? debe : valor(debe));
           return (signo.back() == '~' ? es.find(debe) != std::string::npos : es == debe) == (signo[0] != '!');
         },
         1000);
@@ -252,7 +300,13 @@ QObject* Escena::objeto(const std::string& nombre, const std::string& clase) con
     return suya == nullptr || resto.empty() ? suya : suya->findChild<QObject*>(aQt(resto));
   QWidget* marco = programa_->sistema.marco(ventana);
   if (resto == "marco") return marco;
-  if (resto != "franja") return suya->findChild<QObject*>(aQt(resto));
+  if (resto != "franja") {
+    if (auto* o = suya->findChild<QObject*>(aQt(resto))) return o;
+    const auto* visor = suya->findChild<QWidget*>("Visor1");
+    const auto todos = visor == nullptr ? QObjectList() : visor->findChildren<QObject*>();
+    const auto it = std::find_if(todos.begin(), todos.end(), [&](QObject* o) { return seLlama(*o, resto); });
+    return it == todos.end() ? nullptr : *it;
+  }
   const auto* franja = marco->findChild<QWidget*>("franja");
   if (franja == nullptr || !franja->isVisible()) return nullptr;
   return clase.empty() ? static_cast<QObject*>(franja->findChild<QLabel*>()) : franja->findChild<QPushButton*>();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <deque>
 #include <map>
 #include <memory>
 #include <string>
@@ -7,6 +8,7 @@
 
 #include <QMainWindow>
 #include <QMdiArea>
+#include <QTimer>
 
 #include "apoyo/carpeta_prueba.h"
 #include "apoyo/dialogos_guion.h"
@@ -37,6 +39,7 @@ class Escena {
   void dar(const std::string& orden, const std::string& resto);
   void teclear(const std::string& texto);
   void tecla(const std::string& cual);
+  void responder();
   void raton(const std::string& donde);
   void programa(const std::string& propiedad, const std::string& texto);
   /// The window of that name: a program's, or the one with a control of each kind.
@@ -54,7 +57,9 @@ class Escena {
 
   const CarpetaPrueba carpeta_;
   std::map<std::string, std::string> notas_;
-  std::string hecho_, conLaCaja_;
+  std::string hecho_, conLaCaja_, visto_;
+  std::deque<std::pair<std::string, std::string>> respuestas_;
+  QTimer reloj_;
   Cajas cajas_{*this};
   std::unique_ptr<Programa> programa_;
   std::unique_ptr<BancoEnPantalla> banco_;

@@ -1,4 +1,5 @@
 // What a scene can see of the windows.
+#include <filesystem>
 #include <set>
 
 #include <QAccessible>
@@ -10,7 +11,11 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScrollBar>
 #include <QTableView>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QToolTip>
 
 #include "apoyo/tablas.h"
 #include "comun/numeros.h"
@@ -57,11 +62,14 @@ std::string Escena::valor(const std::string& nombre) const {
   std::string s;
   if (nombre == "hecho") return sinBlancos(banco_ ? banco_->v.hecho : hecho_);
   if (nombre == "conLaCaja") return conLaCaja_;
+  if (esNumero(nombre)) return nombre;
+  if (nombre == "visto") return visto_;
+  if (nombre == "bajoElPuntero") return deQt(QToolTip::text().replace(u'\n', u'/'));
   if (nombre == "enfrente") return enFrente();
   if (nombre == "sugerido") return cajas_.ultimasOpciones.sugerido;
   if (nombre == "copiado") {
     const QImage i = QGuiApplication::clipboard()->image();
-    return i.isNull() ? deQt(QGuiApplication::clipboard()->text())
+    return i.isNull() ? deQt(QGuiApplication::clipboard()->text().replace(u'\t', u'¦').replace(u'\n', u'/'))
                       : "imagen " + std::to_string(i.width()) + " x " + std::to_string(i.height());
   }
   if (nombre == "foco") {
@@ -98,6 +106,7 @@ std::string Escena::valor(const std::string& nombre) const {
     for (const CampoSingle& c : camposSingle())
       if (c.nombre == resto) return texto(programa_->aplicacion.estado.*c.campo);
   }
+  if (ventana == "archivo" && !std::filesystem::exists(carpeta_.en(resto))) return noEsta;
   return ventana == "archivo" ? carpeta_.leer(resto) : deVentana(ventana, resto);
 }
 
@@ -119,9 +128,11 @@ std::string Escena::deVentana(const std::string& ventana, const std::string& que
   const bool dePropia = control == "width" || control == "height" || control == "windowTitle";
   QObject* o = dePropia ? suya : objeto(ventana + "." + control);
   if (o == nullptr) return noEsta;
-  if (auto* t = qobject_cast<QTableView*>(o); t != nullptr && !celda.empty()) {
+  if (auto* t = qobject_cast<QAbstractItemView*>(o); t != nullptr && !celda.empty()) {
     const auto n = partido(celda, '[');
-    return deQt(t->model()->index(std::stoi(n.at(0)), std::stoi(n.at(1))).data().toString());
+    const int fila = std::stoi(n.at(0)), columna = std::stoi(n.at(1));
+    const QVariant titulo = t->model()->headerData(columna, Qt::Horizontal);
+    return deQt((fila < 0 ? titulo : t->model()->index(fila, columna).data()).toString().replace(u'\n', u' '));
   }
   return deWidget(ventana, *o, dePropia ? control : propiedad);
 }
@@ -129,7 +140,19 @@ std::string Escena::deVentana(const std::string& ventana, const std::string& que
 /// What Qt or a screen reader tells of a widget.
 std::string Escena::deWidget(const std::string& ventana, QObject& o, const std::string& que) const {
   auto* w = qobject_cast<QWidget*>(&o);
+  const auto* lista = qobject_cast<QAbstractItemView*>(w);
+  const auto* area = qobject_cast<QAbstractScrollArea*>(w);
+  if (que == "filas") return std::to_string(lista->model()->rowCount());
+  if (que == "elegida") return std::to_string(lista->currentIndex().row());
+  if (que == "desplazado") return std::to_string(area->verticalScrollBar()->value());
+  if (que == "recorrido") return std::to_string(area->verticalScrollBar()->maximum());
   if (que == "hidden") return siNo(w->isHidden());
+  if (auto* t = qobject_cast<QTextBrowser*>(w); t != nullptr && que == "arriba")
+    return deQt(t->cursorForPosition(QPoint(1, 1)).block().text());
+  if (auto* t = qobject_cast<QTextBrowser*>(w); t != nullptr && que == "elegido")
+    return deQt(t->textCursor().selectedText());
+  if (auto* t = qobject_cast<QTextBrowser*>(w); t != nullptr && que == "cursor")
+    return std::to_string(t->textCursor().position());
   if (que == "fondo") return deQt(w->palette().color(QPalette::Base).name());
   if (que == "pintado") {
     const QImage imagen = w->grab().toImage();
@@ -146,7 +169,12 @@ std::string Escena::deWidget(const std::string& ventana, QObject& o, const std::
   if (que == "leido") {
     auto* lector = QAccessible::queryAccessibleInterface(&o);
     if (lector->textInterface() == nullptr || !lector->state().readOnly) return "no result";
-    EXPECT_EQ(lector->textInterface()->text(0, 200), lector->text(QAccessible::Value));
+    const QString valor = lector->text(QAccessible::Value);
+    auto& linea = *lector->textInterface();
+    int desde = -1, hasta = -1;
+    EXPECT_EQ(linea.text(0, 200) + linea.attributes(0, &desde, &hasta), valor);
+    EXPECT_TRUE(desde == 0 && hasta == valor.size() && linea.characterCount() == hasta && linea.selectionCount() == 0);
+    EXPECT_EQ(linea.text(1, 3), valor.mid(1, 2));
     return deQt(lector->text(QAccessible::Name) + ": " + lector->text(QAccessible::Value));
   }
   QVariant v = o.property(que.empty() ? "text" : que.c_str());

@@ -2,11 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMainWindow>
+#include <QPainter>
+#include <QPrinter>
 #include <QScrollBar>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTest>
 #include <QToolButton>
 
@@ -18,6 +20,7 @@
 #include "qt/paginas_memoria.h"
 #include "qt/programa.h"
 #include "qt/vista_memoria.h"
+#include "salida_de.h"
 
 namespace calvento {
 namespace {
@@ -38,12 +41,6 @@ class VentanaDeMemoria : public testing::Test {
     return dynamic_cast<VistaMemoria&>(
         *p.sistema.vista("MemoriaForm10")->findChild<QWidget*>(QStringLiteral("Visor1")));
   }
-  static QLineEdit& campo(Programa& p, const char* nombre) {
-    for (auto* c : vista(p).findChildren<QLineEdit*>())
-      if (c->accessibleName() == aQt(nombre)) return *c;
-    throw std::runtime_error(nombre);
-  }
-
   static QWidget* paginas(Programa& p) {
     for (auto* w : vista(p).findChildren<QWidget*>())
       if (w->accessibleName() == "Páginas de la memoria") return w;
@@ -81,32 +78,71 @@ TEST_F(VentanaDeMemoria, TheStatusBarCountsAfterEachCalculationAndOpensTheChapte
   EXPECT_TRUE(panel(p).isHidden());
 }
 
-TEST_F(VentanaDeMemoria, SearchesKeepsTheCoverAndSaves) {
-  {
-    Programa p(dialogos);
-    VentanaEstructura& f = abrir(p);
-    auto* menu = p.sistema.vista("Form10")->findChild<QAction*>(QStringLiteral("mnmemoria"));
-    ASSERT_TRUE(menu->isEnabled());
-    menu->trigger();
-    QLineEdit& busqueda = campo(p, "Buscar en la memoria");
-    busqueda.setText("Vedernikov");
-    QTest::keyClick(&busqueda, Qt::Key_Return);
-    auto& maqueta = const_cast<MaquetaMemoria&>(*vista(p).maqueta());
-    const int pagina = maqueta.buscar("Vedernikov");
-    EXPECT_GE(pagina, maqueta.paginaDe(8));
-    EXPECT_LT(pagina, maqueta.paginaDe(10));
-    EXPECT_EQ(maqueta.buscar("no está en ninguna parte"), -1);
-    campo(p, "Obra").setText("Canal Norte");
-    vista(p).guardar(aQt(carpeta.en("a.html")));
-    EXPECT_NE(carpeta.leer("a.html").find("Canal Norte"), std::string::npos);
-    EXPECT_EQ(carpeta.leer("a.html").find("Canal Norte"), carpeta.leer("a.html").rfind("Canal Norte"));
-    f.nuevo();
-    EXPECT_FALSE(menu->isEnabled());
+TEST_F(VentanaDeMemoria, FindsMarksAndGoesToTheChapters) {
+  Programa p(dialogos);
+  VentanaEstructura& f = abrir(p);
+  auto* menu = p.sistema.vista("Form10")->findChild<QAction*>(QStringLiteral("mnmemoria"));
+  ASSERT_TRUE(menu->isEnabled());
+  menu->trigger();
+  auto& maqueta = const_cast<MaquetaMemoria&>(*vista(p).maqueta());
+  auto* capitulos = vista(p).findChild<QListWidget*>();
+  for (int i = 1; i < capitulos->count(); ++i) {
+    capitulos->setCurrentRow(i);
+    EXPECT_EQ(dynamic_cast<PaginasMemoria&>(*paginas(p)).pagina(), maqueta.paginaDe(static_cast<std::size_t>(i) - 1));
   }
+  const auto marcados = [&](int pagina) {
+    QImage hoja((maqueta.tamanoMm(pagina) * 4).toSize(), QImage::Format_RGB32);
+    hoja.fill(Qt::white);
+    QPainter pintor(&hoja);
+    maqueta.pintar(pintor, pagina, hoja.rect());
+    int n = 0;
+    for (int i = 0; i < hoja.width() * hoja.height(); ++i)
+      n += QColor(hoja.pixel(i % hoja.width(), i / hoja.width())) == QColor(255, 214, 92);
+    return n;
+  };
+  const int pagina = maqueta.buscar("Vedernikov");
+  EXPECT_GE(pagina, maqueta.paginaDe(8));
+  EXPECT_LT(pagina, maqueta.paginaDe(10));
+  EXPECT_GT(marcados(pagina), 100);
+  EXPECT_EQ(maqueta.buscar("no está en ninguna parte"), -1);
+  EXPECT_EQ(marcados(pagina), 0);
+  EXPECT_GE(maqueta.buscar("Vedernikov", true), pagina) << "the last one";
+  EXPECT_EQ(maqueta.buscar(""), -1);
+  f.nuevo();
+  EXPECT_FALSE(menu->isEnabled());
+}
+
+TEST_F(VentanaDeMemoria, WhatIsPrintedIsWhatIsWritten) {
+  if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "pdftotext is not installed";
   Programa p(dialogos);
   abrir(p);
   p.aplicacion.mostrar("MemoriaForm10");
-  EXPECT_EQ(campo(p, "Obra").text(), "Canal Norte");
+  const QString escrita = aQt(carpeta.en("a.pdf")), impresa = aQt(carpeta.en("b.pdf"));
+  vista(p).guardar(escrita);
+  const int n = vista(p).maqueta()->paginas();
+  for (const auto& [de, a] : {std::pair{0, 0}, {2, 3}, {n - 1, n + 5}}) {
+    QPrinter pdf(QPrinter::HighResolution);
+    pdf.setOutputFormat(QPrinter::PdfFormat);
+    pdf.setPageSize(QPageSize(QPageSize::A4));
+    pdf.setFullPage(true);
+    pdf.setFromTo(de, a);
+    pdf.setOutputFileName(impresa);
+    EXPECT_TRUE(vista(p).maqueta()->imprimir(pdf));
+    const int primera = std::max(de, 1), ultima = a == 0 ? n : std::min(a, n);
+    for (int i = primera; i <= ultima + 1; ++i) {
+      const auto letras = [](int pagina, const QString& archivo) {
+        const QString cual = QString::number(pagina);
+        std::string todas = salidaDe("pdftotext", {"-f", cual, "-l", cual, archivo, "-"})
+                                .simplified()
+                                .remove(u' ')
+                                .remove(u'-')
+                                .toStdString();
+        std::sort(todas.begin(), todas.end());  // the words of a page that lies come in another order
+        return todas;
+      };
+      EXPECT_EQ(letras(i - primera + 1, impresa), i > ultima ? "" : letras(i, escrita)) << i;
+    }
+  }
 }
 
 }  // namespace
