@@ -134,10 +134,13 @@ void escribirManual(QTextDocument& documento, const QString& markdown, const QUr
   documento.setDefaultFont(letra);
   documento.setBaseUrl(base);
   documento.setMarkdown(markdown, QTextDocument::MarkdownDialectGitHub);
+  QTextCursor todo(&documento);
+  todo.beginEditBlock();  // a text that is shown is laid out once, not at each change
   vestirTitulos(documento, forma);
   for (QTextBlock b = documento.begin(); b.isValid(); b = b.next()) vestirBloque(b, documento, forma);
   for (QTextFrame* marco : documento.rootFrame()->childFrames())
     if (auto* tabla = qobject_cast<QTextTable*>(marco)) vestirTabla(*tabla, forma);
+  todo.endEditBlock();
 }
 
 }  // namespace calvento
