@@ -147,6 +147,8 @@ std::string Escena::deWidget(const std::string& ventana, QObject& o, const std::
   if (que == "desplazado") return std::to_string(area->verticalScrollBar()->value());
   if (que == "recorrido") return std::to_string(area->verticalScrollBar()->maximum());
   if (que == "hidden") return siNo(w->isHidden());
+  if (auto* t = qobject_cast<QTextBrowser*>(w); t != nullptr && que == "letra")
+    return deQt(QString::number(t->document()->defaultFont().pointSizeF()));
   if (auto* t = qobject_cast<QTextBrowser*>(w); t != nullptr && que == "arriba")
     return deQt(t->cursorForPosition(QPoint(1, 1)).block().text());
   if (auto* t = qobject_cast<QTextBrowser*>(w); t != nullptr && que == "elegido")
