@@ -1,6 +1,9 @@
 #include <cmath>
 #include <gtest/gtest.h>
+#include <map>
+#include <set>
 
+#include "apoyo/tablas.h"
 #include "dibujo/puntos.h"
 #include "dibujo/reglas.h"
 #include "plataforma/medidas.h"
@@ -67,6 +70,22 @@ TEST(Reglas, LasDeLaTrayectoriaYLasSecciones) {
   Lienzo s(520, 41);
   EJEX(-1.5, 1.5, s, reglaXSeccion);
   EXPECT_EQ(rotulos(s).substr(0, 7), "|-1.50|");
+}
+
+TEST(Reglas, LasMarcasVanDelBordeHaciaDentro) {
+  const std::map<std::string, std::pair<const EstiloRegla&, bool>> reglas = {
+      {"progresivas", {reglaProgresivas, true}}, {"x trayectoria", {reglaXTrayectoria, true}},
+      {"x sección", {reglaXSeccion, true}},      {"elevaciones", {reglaElevaciones, false}},
+      {"y sección", {reglaYSeccion, false}},     {"y trayectoria", {reglaYTrayectoria, false}}};
+  porCadaFila("medidas.txt", "reglas", [&](const FilaTabla& f) {
+    const auto& [estilo, horizontal] = reglas.at(f[0]);
+    Lienzo franja(865, 433);
+    (horizontal ? EJEX : EJEY)(100, 110, franja, estilo);
+    std::set<std::pair<double, double>> marcas;
+    for (const PrimLinea& l : pintadas<PrimLinea>(franja))
+      marcas.insert(horizontal ? std::pair(l.a.y, l.b.y) : std::pair(std::max(l.a.x, l.b.x), std::min(l.a.x, l.b.x)));
+    EXPECT_EQ(marcas, (std::set<std::pair<double, double>>{{f.num(1), f.num(2)}, {f.num(3), f.num(4)}}));
+  });
 }
 
 TEST(Reglas, UnTramoSinMedidaNoSeCuelga) {

@@ -133,7 +133,8 @@ def comparar(lineas, diseno):
             continue
         clase, halladas = quedan[-1]
         if clave == "R":  # what a window's table has not is told so, but for remarks in the last column
-            bien = clase in "E-" and halladas in (celdas, [c or "–" for c in celdas[:-1]] + celdas[-1:])
+            titulo = not any(re.search(r"^-?[\d+]+\.\d|actible$|^(Aviso|Pregunta)$", c) for c in celdas)
+            bien = clase == "-E"[titulo] and halladas in (celdas, [c or "–" for c in celdas[:-1]] + celdas[-1:])
         else:
             bien = clase == clave[0] and len(celdas) == len(halladas) and all(
                 igual(c, h, nombres) for c, h in zip(celdas, halladas))
