@@ -109,7 +109,9 @@ void GraficoEstudio::dibujar(Lienzo& l) const {
     l.Line({x, arriba}, {x, piso}, rgb(0x80, 0x80, 0x80));
     l.DrawStyle = EstiloLinea::solida;
     l.ForeColor = rgb(0x60, 0x60, 0x60);
-    escribir(l, {x + 4, piso - 16}, "tecleado: " + corto(*tecleado));
+    const std::string cual = "tecleado: " + corto(*tecleado);
+    const bool cabe = x + 4 + letraAncha * static_cast<double>(cual.size()) < l.anchoPixeles();
+    escribir(l, {cabe ? x + 4 : x - 4, piso - 16}, cual, cabe ? 0 : 1);
   }
   // the names stand at the upper end that the curves leave free
   std::size_t larga = 0;

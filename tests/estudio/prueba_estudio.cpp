@@ -3,10 +3,14 @@
 
 #include "aplicacion/aplicacion.h"
 #include "apoyo/mesa.h"
+#include "comun/numeros.h"
+#include "dibujo/puntos.h"
 #include "estudio/buscar.h"
 #include "estudio/csv.h"
+#include "estudio/curva.h"
 #include "estudio/estudio.h"
 #include "memoria/ecuaciones.h"
+#include "plataforma/medidas.h"
 #include "plataforma/sin_pantalla.h"
 
 namespace calvento {
@@ -227,6 +231,69 @@ TEST(Estudio, RefusesWhatIsNoStudySortsAndIsReadBack) {
   TextoCsv t(false);
   t.texto("=1+1").texto("a \"b\"\n").valor("-2.5").texto("-x").finDeLinea();
   EXPECT_EQ(t.contenido(), "'=1+1,\"a \"\"b\"\"\n\",-2.5,'-x\r\n");
+}
+
+/// What stands beside the marks of an axis gives the value of a pixel: the first and the last mark.
+struct Eje {
+  double p1 = 0, v1 = 0, p2 = 0, v2 = 0;
+  double valor(double p) const { return v1 + (p - p1) * (v2 - v1) / (p2 - p1); }
+};
+Eje eje(const std::vector<PrimTexto>& textos, const std::vector<PrimLinea>& lineas, bool horizontal) {
+  std::vector<std::pair<double, double>> marcas;
+  for (const PrimLinea& l : lineas) {
+    const Punto a = l.a, b = l.b;
+    const double largo = horizontal ? b.y - a.y : b.x - a.x;
+    if (l.pluma.color != color::negro || largo < 2 || largo > 10) continue;
+    for (const PrimTexto& t : textos) {
+      const Punto medio{t.en.x + anchoTexto(t.texto) / 30.0, t.en.y + 6};
+      const bool suya = horizontal ? t.en.y > b.y && std::abs(medio.x - a.x) < 9
+                                   : medio.x < a.x && a.x - medio.x < 40 && std::abs(medio.y - a.y) < 3;
+      if (suya) marcas.emplace_back(horizontal ? a.x : a.y, std::stod(t.texto));
+    }
+  }
+  EXPECT_GE(marcas.size(), 4U);
+  return {marcas.front().first, marcas.front().second, marcas.back().first, marcas.back().second};
+}
+
+TEST(Curva, IsReadOffItsAxesAsTheTableTells) {
+  Abierto p("04-tres-tramos.cvr");
+  Estudio e(p.base(), {{&p.entrada("bRapida"), {"1.8", "2", "0", "2.2", "2.4"}}, {&p.entrada("Q"), {"9", "12"}}});
+  e.completar();
+  const std::size_t columna = columnaDe(*p.ficha, "yFin");
+  const GraficoEstudio g = graficoDe(e, p.base(), columna);
+  Lienzo l(640, 400);
+  g.dibujar(l);
+  const auto textos = pintadas<PrimTexto>(l);
+  const auto lineas = pintadas<PrimLinea>(l);
+  const auto puntos = pintadas<PrimCirculo>(l);
+  const auto tramos = pintadas<PrimPolilinea>(l);
+  const Eje x = eje(textos, lineas, true), y = eje(textos, lineas, false);
+  ASSERT_EQ(puntos.size(), 8U);
+  ASSERT_EQ(tramos.size(), 4U) << "without the width of 0 each curve is broken";
+  for (std::size_t f = 0, n = 0; f < e.total(); ++f) {
+    if (!e.filas()[f].calculado) continue;
+    const double b = std::stod(e.puestos(f)[0].texto), Q = std::stod(e.puestos(f)[1].texto);
+    const auto suyo = std::ranges::find_if(puntos, [&](const PrimCirculo& c) {
+      return std::abs(x.valor(c.centro.x) - b) < 1e-6 &&
+             std::abs(y.valor(c.centro.y) - e.filas()[f].celdas[columna].numero) < 1e-6;
+    });
+    ASSERT_TRUE(suyo != puntos.end()) << f;
+    const auto leido = g.leer(l, {suyo->centro.x + 1, suyo->centro.y - 2});
+    EXPECT_EQ(leido->fila, f);
+    EXPECT_NE(leido->texto.find("= " + texto(Real(b)) + ", " + texto(Real(Q))), std::string::npos) << leido->texto;
+    const std::string nombre = texto(Real(Q)) + " m³/s";
+    const auto leyenda = std::ranges::find(textos, nombre, &PrimTexto::texto);
+    ASSERT_TRUE(leyenda != textos.end()) << nombre;
+    EXPECT_EQ(leyenda->color, suyo->pluma.color);
+    EXPECT_EQ(leyenda->color, tramos[n++ % 2 * 2].pluma.color);
+  }
+  for (const char* t : {"Canal de la rápida: Ancho de base(b) (m)", "tecleado: 2.4"})
+    EXPECT_NE(std::ranges::find(textos, t, &PrimTexto::texto), textos.end()) << t;
+  const auto tecleado =
+      std::ranges::find(lineas, EstiloLinea::guiones, [](const PrimLinea& r) { return r.pluma.estilo; });
+  ASSERT_TRUE(tecleado != lineas.end());
+  EXPECT_NEAR(x.valor(tecleado->a.x), 2.4, 1e-6);
+  for (const PrimTexto& t : textos) EXPECT_TRUE(t.en.x >= 0 && t.en.x + anchoTexto(t.texto) / 15.0 <= 640) << t.texto;
 }
 
 }  // namespace
