@@ -62,7 +62,7 @@ struct Pintado {
 };
 
 bool esElTexto(const PrimTexto& t, const Json& debe) {
-  return mismoTexto(t.texto, debe[2].get<std::string>()) && t.color == color::azulClaro &&
+  return mismoTexto(t.texto, debe[2].get<std::string>()) && t.color == color::azulClaro && t.letra.familia == "Arial" &&
          (debe.size() < 4 || cerca(t.en, debe[3])) &&
          (debe.size() < 5 || std::fabs(t.letra.angulo - debe[4].get<double>()) < 0.06);
 }
