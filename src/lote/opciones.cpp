@@ -78,6 +78,10 @@ std::string enEspanol(const CLI::ParseError& error, const CLI::App& programa) {
     const std::string detalle = error.what();  // begins with the option's name
     return "a la opción " + detalle.substr(0, detalle.find_first_of(": ")) + " le falta su valor, le sobra o se repite";
   }
+  if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) {
+    const std::string detalle = error.what();  // ends with the option and its value
+    return "valor que no se admite: " + detalle.substr(detalle.find(": ") + 2);
+  }
   return std::string("opción errónea: ") + error.what();
 }
 
