@@ -51,7 +51,6 @@ bool DialogosQt::pregunta(const std::string& texto) {
 
 std::optional<std::string> DialogosQt::abrirArchivo(const OpcionesArchivo& opciones) {
   QFileDialog dialogo(duenoDeCajas());
-  dialogo.setAcceptMode(QFileDialog::AcceptOpen);
   dialogo.setFileMode(QFileDialog::ExistingFile);
   return elegir(dialogo, opciones);
 }

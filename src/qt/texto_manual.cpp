@@ -80,7 +80,7 @@ void vestirBloque(const QTextBlock& b, QTextDocument& documento, const FormaManu
       f.setFontFamilies({QStringLiteral("DejaVu Sans Mono")});
       f.setFontPointSize(forma.tamano * 0.86);
     }
-    if (f.isAnchor() && !f.anchorHref().isEmpty()) {
+    if (!f.anchorHref().isEmpty()) {
       f.setForeground(azulManual);
       f.setFontUnderline(false);
     }

