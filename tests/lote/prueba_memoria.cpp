@@ -61,6 +61,17 @@ TEST(Memoria, TheProfileGoesFromCanalToCanalThroughTheBasin) {
     ASSERT_EQ(lineas.size(), 3U);
     const DesignState& e = diseno.e;
     const auto num = [](Single x) { return static_cast<double>(x.valor()); };
+    // each line of the grid has its station or its elevation written at it
+    const auto& todo = std::get<Lienzo>(figura.dibujo).primitivas();
+    for (const Primitiva& p : todo)
+      if (const auto* l = std::get_if<PrimLinea>(&p)) {
+        const double cifra = l->a.x == l->b.x ? l->a.x + num(e.progresivaInicio) : l->a.y;
+        EXPECT_TRUE(std::ranges::any_of(todo, [&](const Primitiva& q) {
+          std::string t = std::holds_alternative<PrimTexto>(q) ? std::get<PrimTexto>(q).texto : "";
+          std::erase(t, '+');
+          return !t.empty() && std::fabs(std::atof(t.c_str()) - cifra) < 0.006;
+        })) << cifra;
+      }
     const double y = num(e.ynAbajo), abajo = num(e.cotaAbajo);
     const double v = num(e.Q) / (y * (num(e.bAbajo) + num(e.zAbajo) * y));
     EXPECT_NEAR(lineas[0].back().y, abajo + y + v * v / 19.62, 2e-3);

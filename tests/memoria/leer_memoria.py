@@ -206,6 +206,12 @@ def de_odt(archivo):
 
 
 def probar(programa, proyecto, carpeta, *campos):
+    # a line of the file itself: opening it writes over what an option puts into the parameters
+    caso = next(Path(__file__).parents[1].glob(f"casos/*{proyecto.suffix}.json"))
+    renglones = dict(zip(json.loads(caso.read_text())["proyecto"], proyecto.read_text("latin-1").splitlines()))
+    renglones.update(c.split("=") for c in campos if c.split("=")[0] in renglones)
+    proyecto = carpeta / proyecto.name
+    proyecto.write_text("\r\n".join(renglones.values()) + "\r\n", "latin-1", newline="")
     formas = (("html", de_html), ("pdf", de_pdf), ("odt", de_odt))
     # laying out pages takes most of the time: of each structure some
     for forma, leer in formas[:1 if campos or int(proyecto.name[:2]) % 3 else 3]:

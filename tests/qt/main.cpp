@@ -5,7 +5,10 @@
 
 #include "qt/aplicacion_qt.h"
 #include "qt/letras.h"
-#include "qt/tecleo.h"
+
+namespace calvento {
+int teclear(int argc, char** argv);  // beside the tests of the copies
+}
 
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -63,8 +63,6 @@ TEST_F(VentanaDeMemoria, TheStatusBarCountsAfterEachCalculationAndOpensTheChapte
   EXPECT_NE(panel(p).text(), antes);
   EXPECT_TRUE(f.sbStatusBar.Alarma);
   QTest::mouseClick(&panel(p), Qt::LeftButton);
-  ASSERT_NE(p.sistema.vista("MemoriaForm10"), nullptr);
-  EXPECT_EQ(vista(p).findChild<QListWidget*>()->currentItem()->text(), "10. Comprobaciones");
   // an open report follows the next calculation; a calculation that stops leaves it, and no count
   f.Text23.Text = "1.95";
   f.Command3_Click();

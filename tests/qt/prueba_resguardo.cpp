@@ -20,7 +20,6 @@
 #include "qt/cadena.h"
 #include "qt/escritorio.h"
 #include "qt/senales_sistema.h"
-#include "qt/tecleo.h"
 
 namespace calvento {
 namespace {
@@ -180,6 +179,8 @@ TEST_F(Resguardada, UnaCopiaQueNoSePuedeEscribirSeDiceUnaVezYNoEstorba) {
 
 }  // namespace
 
+/// Types growing numbers into the fields of a chute and tells each on its output, with the time in ms: until it is
+/// killed.
 int teclear(int argc, char** argv) {
   QApplication aplicacion(argc, argv);
   DialogosGuion dialogos;

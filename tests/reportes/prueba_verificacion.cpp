@@ -33,7 +33,7 @@ TEST_F(Verificacion, IgualMomentoEnCadaFila) {
     e.zPoza = e.zPozaCaida = z;
     e.tipoTanque = z == 0 ? 1 : 6;
     const Rejilla t = tabla13(e);
-    EXPECT_EQ(std::pair(t.anchoTwips(0), t.anchoTwips(9)), std::pair(250, 1600));
+    EXPECT_EQ(std::tuple(t.anchoTwips(0), t.anchoTwips(9), t.alineacion(0)), std::tuple(250, 1600, Alineacion::centro));
     for (int fila = 3; fila <= 12; ++fila) {
       const double Q = caudal(fila);
       EXPECT_NEAR(de(t, fila, 1), Q, 1e-9);
