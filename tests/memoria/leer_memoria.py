@@ -210,11 +210,9 @@ def probar(programa, proyecto, carpeta, *campos):
     caso = next(Path(__file__).parents[1].glob(f"casos/*{proyecto.suffix}.json"))
     renglones = dict(zip(json.loads(caso.read_text())["proyecto"], proyecto.read_text("latin-1").splitlines()))
     renglones.update(c.split("=") for c in campos if c.split("=")[0] in renglones)
-    proyecto = carpeta / proyecto.name
-    proyecto.write_text("\r\n".join(renglones.values()) + "\r\n", "latin-1", newline="")
-    formas = (("html", de_html), ("pdf", de_pdf), ("odt", de_odt))
+    (proyecto := carpeta / proyecto.name).write_text("\n".join(renglones.values()) + "\n", "latin-1", newline="\r\n")
     # laying out pages takes most of the time: of each structure some
-    for forma, leer in formas[:1 if campos or int(proyecto.name[:2]) % 3 else 3]:
+    for forma, leer in (("html", de_html), ("pdf", de_pdf), ("odt", de_odt))[:1 if campos or int(proyecto.name[:2]) % 3 else 3]:
         archivo = carpeta / f"m.{forma}"
         puestos = [x for campo in campos for x in ("--campo", campo)]
         r = subprocess.run([programa, "--json", "--memoria", archivo, *puestos, proyecto], capture_output=True, text=True)

@@ -104,7 +104,6 @@ TEST_F(Exportar, LoQueNoSePuedeEscribirSeDiceYNoDejaRastro) {
 
 TEST_F(Exportar, AFileEndsAsTheKindThatIsChosen) {
   QWidget ventana;
-  ventana.show();
   for (const QString filtro : {"PDF (*.pdf)", "SVG (*.svg)"}) {
     QTimer::singleShot(0, &ventana, [&] {
       auto* caja = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
