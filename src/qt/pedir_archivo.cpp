@@ -25,9 +25,6 @@ QString elegirArchivo(QFileDialog& dialogo, const QString& sugerido) {
   dialogo.resize(dialogo.size().expandedTo(QSize(760, 440)));
   for (QTreeView* lista : dialogo.findChildren<QTreeView*>())  // no column is cut
     lista->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  dialogo.setLabelText(QFileDialog::LookIn, QStringLiteral("Buscar en:"));
-  dialogo.setLabelText(QFileDialog::FileName, QStringLiteral("&Nombre de archivo:"));
-  dialogo.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo:"));
   dialogo.setLabelText(QFileDialog::Reject, QStringLiteral("Cancelar"));
   dialogo.setLabelText(QFileDialog::Accept, dialogo.acceptMode() == QFileDialog::AcceptSave ? QStringLiteral("Guardar")
                                                                                             : QStringLiteral("Abrir"));

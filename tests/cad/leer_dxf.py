@@ -62,6 +62,7 @@ def formato(dibujo, archivo):
     formas, hechos = {}, registros(archivo)
     for nombre, *grupos in ([c.strip() for c in linea.split("|")] for linea in GRUPOS):
         formas.setdefault(nombre, []).append(grupos)
+    exigir(len(hechos["BLOCK"]) == len(hechos["ENDBLK"]), "a block without end")
     nombres = {"x1": x1, "y1": y1, "x2": x2, "y2": y2}
     for nombre, lineas in formas.items():
         hallados = hechos.get(nombre, [])

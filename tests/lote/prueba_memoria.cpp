@@ -63,15 +63,19 @@ TEST(Memoria, TheProfileGoesFromCanalToCanalThroughTheBasin) {
     const auto num = [](Single x) { return static_cast<double>(x.valor()); };
     // each line of the grid has its station or its elevation written at it
     const auto& todo = std::get<Lienzo>(figura.dibujo).primitivas();
+    int rayas[2] = {};
     for (const Primitiva& p : todo)
       if (const auto* l = std::get_if<PrimLinea>(&p)) {
-        const double cifra = l->a.x == l->b.x ? l->a.x + num(e.progresivaInicio) : l->a.y;
+        const bool parada = l->a.x == l->b.x;
+        ++rayas[parada];
+        const double cifra = parada ? l->a.x + num(e.progresivaInicio) : l->a.y;
         EXPECT_TRUE(std::ranges::any_of(todo, [&](const Primitiva& q) {
           std::string t = std::holds_alternative<PrimTexto>(q) ? std::get<PrimTexto>(q).texto : "";
           std::erase(t, '+');
           return !t.empty() && std::fabs(std::atof(t.c_str()) - cifra) < 0.006;
         })) << cifra;
       }
+    EXPECT_TRUE(rayas[0] > 2 && rayas[1] > 2);
     const double y = num(e.ynAbajo), abajo = num(e.cotaAbajo);
     const double v = num(e.Q) / (y * (num(e.bAbajo) + num(e.zAbajo) * y));
     EXPECT_NEAR(lineas[0].back().y, abajo + y + v * v / 19.62, 2e-3);

@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
-#include <QListWidget>
 #include <QMainWindow>
 #include <QPainter>
 #include <QPrinter>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QSettings>
 #include <QStandardPaths>
@@ -83,11 +83,6 @@ TEST_F(VentanaDeMemoria, FindsMarksAndGoesToTheChapters) {
   ASSERT_TRUE(menu->isEnabled());
   menu->trigger();
   auto& maqueta = const_cast<MaquetaMemoria&>(*vista(p).maqueta());
-  auto* capitulos = vista(p).findChild<QListWidget*>();
-  for (int i = 1; i < capitulos->count(); ++i) {
-    capitulos->setCurrentRow(i);
-    EXPECT_EQ(dynamic_cast<PaginasMemoria&>(*paginas(p)).pagina(), maqueta.paginaDe(static_cast<std::size_t>(i) - 1));
-  }
   const auto marcados = [&](int pagina) {
     QImage hoja((maqueta.tamanoMm(pagina) * 4).toSize(), QImage::Format_RGB32);
     hoja.fill(Qt::white);
@@ -117,6 +112,7 @@ TEST_F(VentanaDeMemoria, WhatIsPrintedIsWhatIsWritten) {
   p.aplicacion.mostrar("MemoriaForm10");
   const QString escrita = aQt(carpeta.en("a.pdf")), impresa = aQt(carpeta.en("b.pdf"));
   vista(p).guardar(escrita);
+  EXPECT_TRUE(salidaDe("pdfinfo", {escrita}).contains("Memoria de cálculo hidráulico - "));
   const int n = vista(p).maqueta()->paginas();
   for (const auto& [de, a] : {std::pair{0, 0}, {2, 3}, {n - 1, n + 5}}) {
     QPrinter pdf(QPrinter::HighResolution);
@@ -131,9 +127,7 @@ TEST_F(VentanaDeMemoria, WhatIsPrintedIsWhatIsWritten) {
       const auto letras = [](int pagina, const QString& archivo) {
         const QString cual = QString::number(pagina);
         std::string todas = salidaDe("pdftotext", {"-f", cual, "-l", cual, archivo, "-"})
-                                .simplified()
-                                .remove(u' ')
-                                .remove(u'-')
+                                .remove(QRegularExpression("[\\s-]"))
                                 .toStdString();
         std::sort(todas.begin(), todas.end());  // the words of a page that lies come in another order
         return todas;
