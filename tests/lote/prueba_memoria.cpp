@@ -66,9 +66,8 @@ TEST(Memoria, TheProfileGoesFromCanalToCanalThroughTheBasin) {
     int rayas[2] = {};
     for (const Primitiva& p : todo)
       if (const auto* l = std::get_if<PrimLinea>(&p)) {
-        const bool parada = l->a.x == l->b.x;
-        ++rayas[parada];
-        const double cifra = parada ? l->a.x + num(e.progresivaInicio) : l->a.y;
+        ++rayas[l->a.x == l->b.x];
+        const double cifra = l->a.x == l->b.x ? l->a.x + num(e.progresivaInicio) : l->a.y;
         EXPECT_TRUE(std::ranges::any_of(todo, [&](const Primitiva& q) {
           std::string t = std::holds_alternative<PrimTexto>(q) ? std::get<PrimTexto>(q).texto : "";
           std::erase(t, '+');
