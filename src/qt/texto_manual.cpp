@@ -136,8 +136,8 @@ void escribirManual(QTextDocument& documento, const QString& markdown, const QUr
   documento.setMarkdown(markdown, QTextDocument::MarkdownDialectGitHub);
   QTextCursor todo(&documento);
   todo.beginEditBlock();  // a text that is shown is laid out once, not at each change
-  vestirTitulos(documento, forma);
   for (QTextBlock b = documento.begin(); b.isValid(); b = b.next()) vestirBloque(b, documento, forma);
+  vestirTitulos(documento, forma);  // last: a title stays one letter and size where it names a program
   for (QTextFrame* marco : documento.rootFrame()->childFrames())
     if (auto* tabla = qobject_cast<QTextTable*>(marco)) vestirTabla(*tabla, forma);
   todo.endEditBlock();

@@ -129,7 +129,7 @@ void Escena::dar(const std::string& orden, const std::string& resto) {
     tecla(resto);
   } else if (orden == "raton") {
     raton(resto);
-  } else if (QObject* o = objeto(primero, orden == "pulsa" ? "QPushButton" : ""); o == nullptr) {
+  } else if (QObject* o = objeto(primero); o == nullptr) {
     FAIL() << "no " << primero;
   } else if (orden == "elige") {
     auto* accion = qobject_cast<QAction*>(o);
@@ -297,23 +297,21 @@ void Escena::programa(const std::string& propiedad, const std::string& texto) {
   if (cual == "ListIndex") v.Combo1.ListIndex = std::stoi(texto);
 }
 
-QObject* Escena::objeto(const std::string& nombre, const std::string& clase) const {
+QObject* Escena::objeto(const std::string& nombre) const {
   const auto [ventana, resto] = partidoEn(nombre, '.');
   QMainWindow* suya = vista(ventana);
   if (suya == nullptr || resto.empty() || ventana == "Banco")
     return suya == nullptr || resto.empty() ? suya : suya->findChild<QObject*>(aQt(resto));
   QWidget* marco = programa_->sistema.marco(ventana);
   if (resto == "marco") return marco;
-  if (resto != "franja") {
-    if (auto* o = suya->findChild<QObject*>(aQt(resto))) return o;
-    const auto* visor = suya->findChild<QWidget*>("Visor1");
-    const auto todos = visor == nullptr ? QObjectList() : visor->findChildren<QObject*>();
-    const auto it = std::find_if(todos.begin(), todos.end(), [&](QObject* o) { return seLlama(*o, resto); });
-    return it == todos.end() ? nullptr : *it;
-  }
-  const auto* franja = marco->findChild<QWidget*>("franja");
-  if (franja == nullptr || !franja->isVisible()) return nullptr;
-  return clase.empty() ? static_cast<QObject*>(franja->findChild<QLabel*>()) : franja->findChild<QPushButton*>();
+  auto* franja = marco->findChild<QWidget*>("franja");
+  if (franja != nullptr && !franja->isVisible()) franja = nullptr;
+  if (resto == "franja") return franja == nullptr ? nullptr : franja->findChild<QLabel*>();
+  if (auto* o = suya->findChild<QObject*>(aQt(resto))) return o;
+  for (const QWidget* w : {suya->findChild<QWidget*>("Visor1"), franja})
+    for (QObject* o : w == nullptr ? QObjectList() : w->findChildren<QObject*>())
+      if (seLlama(*o, resto)) return o;
+  return nullptr;
 }
 
 }  // namespace calvento

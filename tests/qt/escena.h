@@ -46,7 +46,7 @@ class Escena {
   QMainWindow* vista(const std::string& nombre) const;
   void comprobar(const std::string& que);
   /// The window system's windows and what belongs to them: "Form10", "Form10.Text5", "Form10.marco", "Form10.franja".
-  QObject* objeto(const std::string& nombre, const std::string& clase = {}) const;
+  QObject* objeto(const std::string& nombre) const;
   /// What can be seen of a name: a widget's text, "Form10.Text5.toolTip", "foco", "orden"…
   std::string valor(const std::string& nombre) const;
   std::string deVentana(const std::string& ventana, const std::string& que) const;

@@ -97,8 +97,7 @@ std::string Escena::valor(const std::string& nombre) const {
   if (nombre == "desplegado") {
     const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     for (const QAction* a : menu == nullptr ? QList<QAction*>() : menu->actions())
-      if (!a->isSeparator())
-        s += (s.empty() ? "" : " | ") + std::string(a->isChecked() ? "*" : a->isEnabled() ? "" : "-") + deQt(a->text());
+      s += (s.empty() ? "" : " | ") + std::string(a->isChecked() ? "*" : a->isEnabled() ? "" : "-") + deQt(a->text());
     return s;
   }
   const auto [ventana, resto] = partidoEn(nombre, '.');
