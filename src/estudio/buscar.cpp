@@ -5,6 +5,7 @@
 #include <map>
 
 #include "comun/numeros.h"
+#include "comun/unidades.h"
 
 namespace calvento {
 
@@ -104,20 +105,17 @@ class Buscador {
 };
 
 std::string frase(const Columna& c, const Entrada& e, const Busqueda& b, const std::string& buscado) {
-  const auto con = [&](const Hallado& h) {
-    return e.rotulo + " = " + h.texto + (e.unidad.empty() ? "" : " " + e.unidad);
-  };
-  const auto unidad = c.unidad.empty() ? "" : " " + c.unidad;
-  if (!b.soluciones.empty())
-    return c.nombre + " = " + textoDe(c, {b.soluciones.front().resultado, {}}) + unidad + " con " +
-           con(b.soluciones.front());
-  const std::string no = b.detenida ? "La búsqueda de " + c.nombre + " = " + buscado + unidad +
-                                          " se detuvo antes de recorrer esos límites: pruebe con un paso mayor. "
-                                    : c.nombre + " no toma el valor " + buscado + unidad + " entre esos límites. ";
+  const auto con = [&](const Hallado& h) { return "con " + e.rotulo + " = " + conUnidad(h.texto, e.unidad); };
+  const auto toma = [&](const Hallado& h) { return conUnidad(textoDe(c, {h.resultado, {}}), c.unidad); };
+  if (!b.soluciones.empty()) return c.nombre + " = " + toma(b.soluciones.front()) + " " + con(b.soluciones.front());
+  const std::string no = b.detenida
+                             ? "La búsqueda de " + c.nombre + " = " + conUnidad(buscado, c.unidad) +
+                                   " se detuvo antes de recorrer esos límites: pruebe con un paso mayor. "
+                             : c.nombre + " no toma el valor " + conUnidad(buscado, c.unidad) + " entre esos límites. ";
   if (b.cercano.texto.empty())
     return no + (b.detenida ? "Ningún diseño recorrido tiene ese resultado" : "Ningún diseño tiene ese resultado");
-  return no + (b.detenida ? "De lo recorrido, lo más cercano es " : "Lo más cercano es ") +
-         textoDe(c, {b.cercano.resultado, {}}) + unidad + ", con " + con(b.cercano);
+  return no + (b.detenida ? "De lo recorrido, lo más cercano es " : "Lo más cercano es ") + toma(b.cercano) + ", " +
+         con(b.cercano);
 }
 
 }  // namespace

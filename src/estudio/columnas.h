@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "comun/unidades.h"
 #include "memoria/comprobaciones.h"
 #include "memoria/diseno.h"
 #include "plataforma/ventana_datos.h"
@@ -39,7 +40,7 @@ struct Columna {
   std::function<Celda(const Calculado&)> leer;
 
   /// "Profundidad de la poza (m)".
-  std::string titulo() const { return unidad.empty() ? nombre : nombre + " (" + unidad + ")"; }
+  std::string titulo() const { return tituloConUnidad(nombre, unidad); }
 };
 
 /// The name of a field of the record; empty for a field that has none.

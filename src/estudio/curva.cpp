@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "comun/numeros.h"
+#include "comun/unidades.h"
 #include "dibujo/reglas.h"
 
 namespace calvento {
@@ -181,20 +182,13 @@ GraficoEstudio graficoDe(const Estudio& estudio, const Diseno& base, std::size_t
   const std::size_t eje = varian.size() > 1 && !varian[0].entrada->esNumero() ? 1 : 0, otro = 1 - eje;
   const Entrada& x = *varian[eje].entrada;
   GraficoEstudio g;
-  const auto titulo = [](const Entrada& e) { return e.unidad.empty() ? e.rotulo : e.rotulo + " (" + e.unidad + ")"; };
-  g.tituloX = titulo(x);
+  g.tituloX = x.titulo();
   g.tituloY = columnas(estudio.ficha())[columna].titulo();
-  const auto unidadDe = [](const Entrada& e) { return e.unidad.empty() ? "" : " " + e.unidad; };
-  const auto nombreDe = [](const Entrada& e, const std::string& valor) {
-    const auto it =
-        std::find_if(e.opciones.begin(), e.opciones.end(), [&](const Opcion& o) { return o.valor == valor; });
-    return it == e.opciones.end() ? valor : it->nombre;
-  };
   if (!x.esNumero())
-    for (const std::string& v : varian[eje].valores) g.opciones.push_back(nombreDe(x, v));
+    for (const std::string& v : varian[eje].valores) g.opciones.push_back(x.leido(v));
   g.curvas.resize(varian.size() > 1 ? varian[otro].valores.size() : 1);
   for (std::size_t i = 0; varian.size() > 1 && i < g.curvas.size(); ++i)
-    g.curvas[i].nombre = nombreDe(*varian[otro].entrada, varian[otro].valores[i]) + unidadDe(*varian[otro].entrada);
+    g.curvas[i].nombre = conUnidad(varian[otro].entrada->leido(varian[otro].valores[i]), varian[otro].entrada->unidad);
   const double nada = std::numeric_limits<double>::infinity();
   g.x1 = g.y1 = nada;
   g.x2 = g.y2 = -nada;

@@ -126,6 +126,11 @@ bool Entrada::admite(std::string_view valor) const {
   return esNumero() || std::ranges::find(opciones, valor, &Opcion::valor) != opciones.end();
 }
 
+std::string Entrada::leido(const std::string& valor) const {
+  const auto it = std::ranges::find(opciones, valor, &Opcion::valor);
+  return it == opciones.end() ? valor : it->nombre;
+}
+
 std::string valorDe(const Diseno& d, const Entrada& e) {
   if (!e.esNumero()) return texto(Real(d.e.tipoTanque));
   return e.ventana == d.ficha->formato->ventana ? d.campo(e.control) : d.parametro(e.control);

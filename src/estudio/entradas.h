@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "comun/unidades.h"
 #include "memoria/diseno.h"
 #include "plataforma/control.h"
 #include "plataforma/ventana_datos.h"
@@ -33,6 +34,10 @@ struct Entrada {
   bool esNumero() const { return opciones.empty(); }
   /// Whether an option has that value; a field takes any text.
   bool admite(std::string_view valor) const;
+  /// "Canal de la rápida: Ancho de base(b) (m)".
+  std::string titulo() const { return tituloConUnidad(rotulo, unidad); }
+  /// The value as a person reads it: the name of an option, else what is typed.
+  std::string leido(const std::string& valor) const;
 };
 
 /// All that can be put into that structure, data window first. It lives as long as the program.

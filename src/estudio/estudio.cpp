@@ -69,13 +69,13 @@ std::vector<std::size_t> ordenadas(const Estudio& estudio, std::size_t columna, 
 std::string comoCsv(const Estudio& estudio, bool coma) {
   const std::vector<Columna>& todas = columnas(estudio.ficha());
   TextoCsv csv(coma);
-  for (const Variacion& v : estudio.variaciones())
-    csv.texto(v.entrada->unidad.empty() ? v.entrada->rotulo : v.entrada->rotulo + " (" + v.entrada->unidad + ")");
+  const std::vector<Variacion>& varian = estudio.variaciones();
+  for (const Variacion& v : varian) csv.texto(v.entrada->titulo());
   csv.texto("Calculado");
   for (const Columna& c : todas) csv.texto(c.titulo());
   csv.texto("Motivo").finDeLinea();
   for (const Fila& f : estudio.filas()) {
-    for (const std::string& p : f.puestos) csv.valor(p);
+    for (std::size_t i = 0; i < varian.size(); ++i) csv.valor(varian[i].entrada->leido(f.puestos[i]));
     csv.texto(f.calculado ? "sí" : "no");
     for (const Celda& c : f.celdas) c.texto.empty() ? csv.numero(c.numero) : csv.texto(c.texto);
     csv.texto(f.motivo).finDeLinea();

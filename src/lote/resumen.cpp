@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "comun/numeros.h"
+#include "comun/unidades.h"
 #include "modelo/codificacion.h"
 #include "plataforma/rejilla.h"
 
@@ -22,9 +23,7 @@ std::size_t ancho(std::string_view s) {
 std::string pieza(std::string_view simbolo, std::string_view valor, std::string_view unidad) {
   std::string s;
   if (!simbolo.empty()) s = std::string(simbolo) + " = ";
-  s += visible(valor);
-  if (!unidad.empty()) s += " " + std::string(unidad);
-  return s;
+  return s + conUnidad(visible(valor), unidad);
 }
 
 std::string linea(std::string_view lugar, const std::vector<std::string>& piezas) {
@@ -152,7 +151,7 @@ std::string comprobaciones(const Sesion& sesion) {
     const bool mala = c.estado != Comprobacion::Estado::cumple;
     s += (mala ? "> " : "  ") + alineado(std::string(c.nombre), 42) +
          alineado(std::string(nombreEstado(c.estado)), 13) + alineado(cifra(c, c.valor), 10) + " límite " +
-         cifra(c, c.limite) + (c.unidad.empty() ? "" : " ") + std::string(c.unidad) + "\n";
+         conUnidad(cifra(c, c.limite), c.unidad) + "\n";
     if (mala) s += "      " + visible(c.detalle) + "\n";
   }
   return s;

@@ -65,9 +65,7 @@ TablaCsv::TablaCsv(const Opciones& o) {
 std::string TablaCsv::titulos() const {
   TextoCsv csv = nueva();
   csv.texto("archivo");
-  const auto titular = [&](const Titulo& t) {
-    csv.texto(t.unidad.empty() ? t.nombre : t.nombre + " (" + t.unidad + ")");
-  };
+  const auto titular = [&](const Titulo& t) { csv.texto(tituloConUnidad(t.nombre, t.unidad)); };
   std::ranges::for_each(puestos_, titular);
   csv.texto("calculado");
   std::ranges::for_each(resultados_, titular);

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "comun/unidades.h"
 #include "memoria/documento.h"
 #include "memoria/lista.h"
 #include "memoria/mesa.h"
@@ -17,7 +18,7 @@ using lista::n;
 
 /// "0.611 m".
 inline std::string con(double x, std::string_view unidad, int decimales = 3) {
-  return n(x, decimales) + (unidad.empty() ? "" : " ") + std::string(unidad);
+  return conUnidad(n(x, decimales), unidad);
 }
 inline std::string con(Single x, std::string_view unidad, int decimales = 3) { return con(d(x), unidad, decimales); }
 

@@ -45,8 +45,7 @@ void EntradaEstudio::ofrecer(const Ficha& ficha, const std::string& elegida) {
   ficha_ = &ficha;
   cual_->clear();
   if (opcional_) cual_->addItem(QStringLiteral("(nada más)"));
-  for (const Entrada& e : entradas(ficha))
-    cual_->addItem(aQt(e.unidad.empty() ? e.rotulo : e.rotulo + " (" + e.unidad + ")"), aQt(e.nombre));
+  for (const Entrada& e : entradas(ficha)) cual_->addItem(aQt(e.titulo()), aQt(e.nombre));
   if (const int i = cual_->findData(aQt(elegida)); i >= 0) cual_->setCurrentIndex(i);
   proponer();
 }

@@ -52,11 +52,7 @@ QString ModeloEstudio::texto(std::size_t fila, int columna) const {
   const Fila& f = estudio_->filas()[fila];
   const auto c = static_cast<std::size_t>(columna);
   const auto& varian = estudio_->variaciones();
-  if (c < varian.size()) {
-    for (const Opcion& o : varian[c].entrada->opciones)
-      if (o.valor == f.puestos[c]) return aQt(o.nombre);
-    return aQt(f.puestos[c]);
-  }
+  if (c < varian.size()) return aQt(varian[c].entrada->leido(f.puestos[c]));
   if (c == varian.size() + resultados_.size()) return f.calculado ? QString() : aQt(f.motivo);
   const std::size_t cual = resultados_[c - varian.size()];
   return aQt(textoDe(columnas(estudio_->ficha())[cual], f.celdas[cual]));
@@ -86,14 +82,9 @@ QVariant ModeloEstudio::headerData(int seccion, Qt::Orientation orientacion, int
   const auto c = static_cast<std::size_t>(seccion);
   const auto& varian = estudio_->variaciones();
   if (c >= varian.size() + resultados_.size()) return QStringLiteral("Por qué no");
-  QString titulo;
-  if (c < varian.size()) {
-    const Entrada& e = *varian[c].entrada;
-    titulo = aQt(e.unidad.empty() ? e.rotulo : e.rotulo + " (" + e.unidad + ")");
-  } else {
-    titulo = aQt(columnas(estudio_->ficha())[resultados_[c - varian.size()]].titulo());
-  }
-  return titulo.replace(QStringLiteral(": "), QStringLiteral(":\n"))
+  return aQt(c < varian.size() ? varian[c].entrada->titulo()
+                               : columnas(estudio_->ficha())[resultados_[c - varian.size()]].titulo())
+      .replace(QStringLiteral(": "), QStringLiteral(":\n"))
       .replace(QStringLiteral(" ("), QStringLiteral("\n("));
 }
 

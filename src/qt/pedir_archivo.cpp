@@ -33,7 +33,8 @@ QString elegirArchivo(QFileDialog& dialogo, const QString& sugerido) {
   return dialogo.selectedFiles().constFirst();
 }
 
-QString pedirArchivo(QWidget& dueno, const QString& titulo, const QStringList& filtros, const QString& sugerido) {
+QString pedirArchivo(QWidget& dueno, const QString& titulo, const QStringList& filtros, const QString& sugerido,
+                     QString* filtro) {
   QFileDialog dialogo(&dueno, titulo);
   dialogo.setAcceptMode(QFileDialog::AcceptSave);
   dialogo.setNameFilters(filtros);
@@ -41,10 +42,13 @@ QString pedirArchivo(QWidget& dueno, const QString& titulo, const QStringList& f
     const qsizetype punto = filtro.lastIndexOf(u'.') + 1;
     return filtro.mid(punto, filtro.lastIndexOf(u')') - punto);
   };
-  dialogo.setDefaultSuffix(extension(filtros.constFirst()));
+  if (filtro != nullptr) dialogo.selectNameFilter(*filtro);
+  dialogo.setDefaultSuffix(extension(dialogo.selectedNameFilter()));
   QObject::connect(&dialogo, &QFileDialog::filterSelected, &dialogo,
                    [&](const QString& f) { dialogo.setDefaultSuffix(extension(f)); });
-  return elegirArchivo(dialogo, sugerido);
+  const QString archivo = elegirArchivo(dialogo, sugerido);
+  if (filtro != nullptr) *filtro = dialogo.selectedNameFilter();
+  return archivo;
 }
 
 }  // namespace calvento

@@ -280,7 +280,7 @@ void VistaEstudio::copiar() const {
   QGuiApplication::clipboard()->setText(texto);
 }
 
-/// The decimal sign is asked once and remembered.
+/// The decimal sign is asked once and remembered; the kinds of the file box change it.
 void VistaEstudio::pedirTabla() {
   QSettings a = ajustes();
   const QString clave = QStringLiteral("estudio/coma");
@@ -295,31 +295,29 @@ void VistaEstudio::pedirTabla() {
     if (caja.clickedButton() == nada || caja.clickedButton() == nullptr) return;
     a.setValue(clave, caja.clickedButton() == coma);
   }
-  const QString archivo = pedirArchivo(*this, QStringLiteral("Guardar la tabla del estudio"),
-                                       {QStringLiteral("Tabla CSV (*.csv)")}, QStringLiteral("estudio"));
-  if (!archivo.isEmpty()) guardarTabla(archivo, a.value(clave).toBool());
-}
-
-bool VistaEstudio::guardarTabla(const QString& archivo, bool coma) {
-  if (!estudio_) return false;
-  try {
-    guardarEntero(comoRuta(deQt(archivo)), comoCsv(*estudio_, coma));
-    decir(QStringLiteral("Guardado: ") + archivo);
-    return true;
-  } catch (const std::exception& fallo) {
-    decir(aQt(fallo.what()), true);
-    return false;
-  }
+  const QStringList signos{QStringLiteral("CSV con coma decimal (*.csv)"),
+                           QStringLiteral("CSV con punto decimal (*.csv)")};
+  QString signo = signos[a.value(clave).toBool() ? 0 : 1];
+  guardar(
+      pedirArchivo(*this, QStringLiteral("Guardar la tabla del estudio"), signos, QStringLiteral("estudio"), &signo),
+      [&](const QString& archivo) {
+        const bool coma = signo == signos[0];
+        a.setValue(clave, coma);
+        guardarEntero(comoRuta(deQt(archivo)), comoCsv(*estudio_, coma));
+      });
 }
 
 void VistaEstudio::pedirCurva() {
-  const QString archivo =
-      pedirArchivo(*this, QStringLiteral("Guardar la curva"),
-                   {QStringLiteral("SVG (*.svg)"), QStringLiteral("PDF (*.pdf)"), QStringLiteral("PNG (*.png)")},
-                   QStringLiteral("curva"));
+  guardar(pedirArchivo(*this, QStringLiteral("Guardar la curva"),
+                       {QStringLiteral("SVG (*.svg)"), QStringLiteral("PDF (*.pdf)"), QStringLiteral("PNG (*.png)")},
+                       QStringLiteral("curva")),
+          [&](const QString& archivo) { curva_->guardar(deQt(archivo)); });
+}
+
+void VistaEstudio::guardar(const QString& archivo, const std::function<void(const QString&)>& escribir) {
   if (archivo.isEmpty()) return;
   try {
-    curva_->guardar(deQt(archivo));
+    escribir(archivo);
     decir(QStringLiteral("Guardado: ") + archivo);
   } catch (const std::exception& fallo) {
     decir(aQt(fallo.what()), true);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -31,8 +32,6 @@ class VistaEstudio : public QWidget {
 
   /// Works for that control from now on. The widget may outlive it.
   void mostrar(VisorEstudio& visor);
-  /// The table as CSV; false, and told, where it cannot be written.
-  bool guardarTabla(const QString& archivo, bool coma);
 
  private:
   QWidget* hacerEntradas();
@@ -48,6 +47,8 @@ class VistaEstudio : public QWidget {
   void copiar() const;
   void pedirTabla();
   void pedirCurva();
+  /// Writes the file that was asked for, if one was, and tells it, or why it cannot be written.
+  void guardar(const QString& archivo, const std::function<void(const QString&)>& escribir);
   void decir(const QString& texto, bool malo = false);
   /// The design of the windows; nothing, and told, where they are closed.
   std::optional<Diseno> base();

@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QFileDialog>
 #include <QHeaderView>
@@ -177,7 +178,8 @@ void Escena::responder() {
   auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
   QWidget* caja = menu != nullptr ? menu : QApplication::activeModalWidget();
   if (caja == nullptr || respuestas_.empty()) return;
-  const auto [boton, archivo] = respuestas_.front();
+  const auto [boton, demas] = respuestas_.front();
+  const auto [archivo, tipo] = partidoEn(demas, '|');
   respuestas_.pop_front();
   visto_ = deQt(caja->windowTitle() + ": " + caja->property("text").toString());
   for (const QAction* a : menu == nullptr ? QList<QAction*>() : menu->actions()) visto_ += deQt(a->text()) + " | ";
@@ -189,6 +191,8 @@ void Escena::responder() {
   if (const auto* d = caja->findChild<QPrintPreviewWidget*>()) visto_ += std::to_string(d->pageCount());
   if (auto* nombre = caja->findChild<QLineEdit*>("fileNameEdit"); nombre != nullptr && !archivo.empty())
     nombre->setText(aQt(carpeta_.en(archivo)));
+  for (auto* tipos : caja->findChildren<QComboBox*>("fileTypeCombo"))
+    if (!tipo.empty()) QTest::keyClicks(tipos, aQt(tipo));
   if (boton == "cierra") return (void)QMetaObject::invokeMethod(caja, "close", Qt::QueuedConnection);
   for (QAction* a : menu == nullptr ? QList<QAction*>() : menu->actions())
     if (seLlama(*a, boton)) return menu->setActiveAction(a), QTest::keyClick(menu, Qt::Key_Return);
