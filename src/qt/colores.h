@@ -24,6 +24,6 @@ QColor textoPara(const QColor& fondo);
 /// Writes the colours of a control into its widget. Default colours leave the desktop's palette alone; a fixed
 /// background always brings its own text colour, so that a dark desktop stays readable. A marked field is tinted in the
 /// colour of faults.
-void aplicarColores(QWidget& widget, Color fondo, Color texto, bool marcado = false);
+void aplicarColores(QWidget& widget, Color fondo, Color texto, bool marcado);
 
 }  // namespace calvento

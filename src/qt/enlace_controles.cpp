@@ -58,8 +58,7 @@ void escribirSeleccion(const TextBox& campo, QLineEdit& linea) {
   if (largo > 0) {
     if (linea.selectionStart() != inicio || linea.selectionLength() != largo) linea.setSelection(inicio, largo);
   } else if (linea.hasSelectedText() || linea.cursorPosition() != inicio) {
-    linea.deselect();
-    linea.setCursorPosition(inicio);
+    linea.setCursorPosition(inicio);  // which takes the selection away
   }
 }
 
