@@ -34,7 +34,7 @@ QString elegirArchivo(QFileDialog& dialogo, const QString& sugerido) {
 }
 
 QString pedirArchivo(QWidget& dueno, const QString& titulo, const QStringList& filtros, const QString& sugerido,
-                     QString* filtro) {
+                     QString* elegido) {
   QFileDialog dialogo(&dueno, titulo);
   dialogo.setAcceptMode(QFileDialog::AcceptSave);
   dialogo.setNameFilters(filtros);
@@ -42,12 +42,12 @@ QString pedirArchivo(QWidget& dueno, const QString& titulo, const QStringList& f
     const qsizetype punto = filtro.lastIndexOf(u'.') + 1;
     return filtro.mid(punto, filtro.lastIndexOf(u')') - punto);
   };
-  if (filtro != nullptr) dialogo.selectNameFilter(*filtro);
+  if (elegido != nullptr) dialogo.selectNameFilter(*elegido);
   dialogo.setDefaultSuffix(extension(dialogo.selectedNameFilter()));
   QObject::connect(&dialogo, &QFileDialog::filterSelected, &dialogo,
                    [&](const QString& f) { dialogo.setDefaultSuffix(extension(f)); });
   const QString archivo = elegirArchivo(dialogo, sugerido);
-  if (filtro != nullptr) *filtro = dialogo.selectedNameFilter();
+  if (elegido != nullptr) *elegido = dialogo.selectedNameFilter();
   return archivo;
 }
 

@@ -13,8 +13,8 @@ namespace calvento {
 QString elegirArchivo(QFileDialog& dialogo, const QString& sugerido);
 
 /// Asks where to save; empty where the user does not. Each filter, "PDF (*.pdf)", gives its extension to a name without
-/// one. `filtro` is the one that the box shows first and, when it is gone, the one that was chosen.
+/// one. `elegido` is the one that the box shows first and, when it is gone, the one that was chosen.
 QString pedirArchivo(QWidget& dueno, const QString& titulo, const QStringList& filtros, const QString& sugerido,
-                     QString* filtro = nullptr);
+                     QString* elegido = nullptr);
 
 }  // namespace calvento

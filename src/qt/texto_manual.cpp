@@ -98,7 +98,8 @@ void vestirTabla(QTextTable& tabla, const FormaManual& forma) {
   f.setHeaderRowCount(1);
   f.setTopMargin(4 * punto);
   f.setBottomMargin(8 * punto);
-  f.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+  // the whole width would be passed by the rounding of its columns, and the window would scroll sideways
+  f.setWidth(QTextLength(QTextLength::PercentageLength, 99.5));
   tabla.setFormat(f);
   for (int celdas = tabla.rows() * tabla.columns(), i = 0; i < celdas; ++i) {
     QTextTableCell celda = tabla.cellAt(i / tabla.columns(), i % tabla.columns());

@@ -191,8 +191,11 @@ bool VistaManual::buscar(const QString& texto, bool haciaAtras) {
     hallado = d.find(texto, extremo, como);
   }
   if (hallado.isNull()) return false;
+  QScrollBar& barra = *texto_->verticalScrollBar();
+  const int antes = barra.value();
   texto_->setTextCursor(hallado);
-  texto_->ensureCursorVisible();
+  if (barra.value() != antes)  // it was out of sight: now with what stands around it
+    barra.setValue(barra.value() + texto_->cursorRect().top() - texto_->viewport()->height() / 3);
   return true;
 }
 
